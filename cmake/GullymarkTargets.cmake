@@ -1,0 +1,44 @@
+# How every target of the project is compiled, and the one way to add a library or a test.
+
+add_library(gullymark_options INTERFACE)
+target_compile_options(gullymark_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+  -Wold-style-cast -Woverloaded-virtual -Wnull-dereference -Wdouble-promotion -Wformat=2 -Werror
+  # Results are compared digit by digit with hand checks: no fused multiply-add, on any processor.
+  -ffp-contract=off)
+if(GULLYMARK_SANITIZE)
+  target_compile_options(gullymark_options INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(gullymark_options INTERFACE -fsanitize=address,undefined)
+  # The sanitizers' own branches make the compiler see null pointers that are not there.
+  target_compile_options(gullymark_options INTERFACE -Wno-null-dereference)
+endif()
+
+# gullymark_library(engine SOURCES a.cpp b.cpp LINKS gullymark::platform [PRIVATE_LINKS SQLite::SQLite3])
+# One static library for one folder below src. The link line is the boundary between the folders.
+function(gullymark_library name)
+  cmake_parse_arguments(LIB "" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
+  add_library(gullymark_${name} STATIC ${LIB_SOURCES})
+  add_library(gullymark::${name} ALIAS gullymark_${name})
+  target_include_directories(gullymark_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+  target_link_libraries(gullymark_${name}
+    PUBLIC ${LIB_LINKS}
+    PRIVATE gullymark_options ${LIB_PRIVATE_LINKS})
+endfunction()
+
+# gullymark_test(engine SOURCES a_test.cpp LINKS gullymark::engine [WHOLE])
+# One test executable for one folder below tests. Every test case is known to ctest by its name;
+# WHOLE makes the executable one entry, for tests whose start is dear (windows).
+function(gullymark_test name)
+  cmake_parse_arguments(TEST "WHOLE" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(test_${name} ${TEST_SOURCES})
+  target_include_directories(test_${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_link_libraries(test_${name} PRIVATE gullymark_options ${TEST_LINKS} GTest::gtest GTest::gmock GTest::gtest_main)
+  target_compile_definitions(test_${name} PRIVATE
+    GULLYMARK_TEST_DIR="${CMAKE_SOURCE_DIR}/tests" GULLYMARK_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+  if(TEST_WHOLE)
+    add_test(NAME ${name} COMMAND test_${name})
+  else()
+    gtest_discover_tests(test_${name} TEST_PREFIX "${name}: " DISCOVERY_TIMEOUT 60)
+  endif()
+endfunction()

@@ -1,0 +1,118 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The project file as a database: a connection, statements sent as they stand, and row sets over one table.
+/// All values are text or null. Every failure is a Failure with the engine's own description.
+///
+/// The real adapter is SQLite. Statements come from a smaller dialect than SQLite's in two points, and the adapter
+/// carries them out: `ALTER TABLE t ADD a TEXT(3), b TEXT(10)` adds column by column (those before a failing one
+/// stay), and `[NAME]` quotes a name.
+namespace gullymark::platform {
+
+struct DatabaseHandle;
+
+/// A text or null for each column of a row.
+using Row = std::vector<std::optional<std::string>>;
+
+class Connection {
+  public:
+    Connection();
+    ~Connection();
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+    Connection(Connection&&) noexcept;
+    Connection& operator=(Connection&&) noexcept;
+
+    /// Opens an existing project file for reading and writing; it reads the schema at once, so that what is no
+    /// project file (not a database, empty, truncated, another program's, a folder, unreadable) fails here.
+    /// A read-only file, or one in a read-only folder, is a failure too: nothing could be saved in it.
+    void open(const std::string& path);
+
+    /// Fails when the connection is not open.
+    void close();
+
+    [[nodiscard]] bool is_open() const;
+
+    /// Runs one statement that returns no rows. Text after its end, or a second statement, is a failure.
+    void execute(const std::string& statement);
+
+    [[nodiscard]] const std::shared_ptr<DatabaseHandle>& handle() const { return handle_; }
+
+  private:
+    std::shared_ptr<DatabaseHandle> handle_;
+};
+
+/// The rows of one `SELECT list FROM table [WHERE ...] [ORDER BY ...]`: the keys in order, held by the client, and a
+/// current position. A row is read when it is looked at and written alone, at once and whole.
+/// Every operation fails on a row set that is not open or whose connection was closed.
+class RowSet {
+  public:
+    RowSet();
+    ~RowSet();
+    RowSet(const RowSet&) = delete;
+    RowSet& operator=(const RowSet&) = delete;
+    RowSet(RowSet&&) noexcept;
+    RowSet& operator=(RowSet&&) noexcept;
+
+    /// Runs the statement as it stands and goes to the first row, if there is one.
+    void open(const Connection& connection, const std::string& statement);
+    void close();
+    [[nodiscard]] bool is_open() const;
+
+    /// The number of rows, exact at once; a pending new row is not counted before it is saved.
+    [[nodiscard]] std::size_t record_count() const;
+
+    /// Column names as the statement gives them, aliases included.
+    [[nodiscard]] const std::vector<std::string>& columns() const;
+
+    // Position. An empty set is at its beginning and its end.
+    [[nodiscard]] bool at_beginning() const;  // before the first row
+    [[nodiscard]] bool at_end() const;        // behind the last row
+    void move_first();
+    void move_last();
+    void move_next();
+    /// Forward (or back, when negative) by `rows` from the current position; stops at either end marker.
+    void move(std::int64_t rows);
+    /// Forward from the current row, it included, to the first row for which `COLUMN = 'text'` holds; at the end
+    /// when there is none. The text compares exactly, case counting. Any other form of condition is a failure.
+    void find(const std::string& condition);
+    /// A mark that finds the current row again, also after `requery`.
+    [[nodiscard]] std::int64_t bookmark() const;
+    void go_to(std::int64_t bookmark);
+
+    // The current row. Failure when there is none: at an end marker.
+    [[nodiscard]] Row row() const;
+    [[nodiscard]] std::optional<std::string> value(std::string_view column) const;
+
+    /// The row at `index` (0 is the first), wherever the current position is: for lists.
+    [[nodiscard]] Row row_at(std::size_t index) const;
+    /// One column of all rows in order, read at once: for lists.
+    [[nodiscard]] Row all_values(std::string_view column) const;
+
+    // Changing. Only for statements whose columns are plain columns of the table.
+    /// Makes a new row pending; `save` stores it behind the last row of the set.
+    void add_new();
+    [[nodiscard]] bool adding() const;
+    /// Stores `values`, in the order of `columns()`, as the pending new row or into the current row, in one statement
+    /// that is carried out whole or not at all. Only columns that differ from what was loaded are written. A row that
+    /// is no longer in the file is a failure.
+    void save(const Row& values);
+    /// Drops the pending new row and goes back to the row that was current before; nothing is written.
+    void cancel();
+    /// Deletes the current row alone; the position is then the row that followed.
+    void remove();
+    /// Runs the statement again and goes to the first row. A pending new row is dropped.
+    void requery();
+
+  private:
+    struct State;
+    std::unique_ptr<State> state_;
+};
+
+}  // namespace gullymark::platform

@@ -1,0 +1,54 @@
+#include "platform/file_dialog.h"
+
+#include <filesystem>
+
+#include "platform/failure.h"
+#include "platform/files.h"
+#include "platform/outside.h"
+
+namespace gullymark::platform {
+namespace {
+
+/// ".gmk" of "Gullymark files (*.gmk)|*.gmk".
+std::string extension_of(const std::string& filter) {
+    const auto star = filter.rfind("*.");
+    return star == std::string::npos ? std::string() : filter.substr(star + 1);
+}
+
+void show(FileDialog& dialog, bool saving) {
+    const FileDialogRequest request{.saving = saving,
+                                    .title = dialog.title,
+                                    .filter = dialog.filter,
+                                    .initial_folder = dialog.initial_folder,
+                                    .file_name = dialog.file_name,
+                                    .must_exist = dialog.must_exist};
+    const auto chosen = outside.choose_file ? outside.choose_file(request) : std::nullopt;
+    if (!chosen) {
+        if (dialog.cancel_is_error) {
+            throw Failure("Cancel was selected.");
+        }
+        return;
+    }
+    std::filesystem::path path(*chosen);
+    if (saving && path.has_filename() && !path.has_extension()) {
+        path += extension_of(dialog.filter);
+    }
+    dialog.file_name = path.string();
+    if (path.has_parent_path()) {
+        set_current_folder(path.parent_path().string());
+    }
+}
+
+}  // namespace
+
+FileDialog printDlg;
+
+void FileDialog::show_open() {
+    show(*this, false);
+}
+
+void FileDialog::show_save() {
+    show(*this, true);
+}
+
+}  // namespace gullymark::platform

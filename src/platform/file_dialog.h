@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+
+/// The one file dialog of the program, shared by project flows and reports. What a flow sets stays set for the next.
+namespace gullymark::platform {
+
+struct FileDialog {
+    std::string file_name;
+    std::string filter;  // "Gullymark files (*.gmk)|*.gmk"
+    std::string initial_folder;
+    std::string title;
+    bool must_exist = false;
+    /// A cancelled dialog is then a Failure; otherwise it leaves `file_name` as it was.
+    bool cancel_is_error = false;
+
+    /// Show the dialog and wait. Afterwards `file_name` is the full path chosen and the current folder of the process
+    /// is the folder of that path. A name typed for saving without an extension takes the one of the filter.
+    /// Throws Failure("Cancel was selected.") on a cancel while `cancel_is_error` is on.
+    void show_open();
+    void show_save();
+};
+
+extern FileDialog printDlg;
+
+}  // namespace gullymark::platform

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+
+/// What the program asks of its user and desktop, as one table of functions. The shell fills it once at start;
+/// a test puts in functions of its own. A function that nobody has set does nothing and answers with its default.
+namespace gullymark::platform {
+
+/// The kinds of message box. Both questions have the buttons Yes and No, all others have OK alone.
+enum class BoxKind { plain, information, warning, warning_question, information_question };
+
+enum class Answer { ok, yes, no };
+
+/// The title of every box that names none.
+inline constexpr const char* application_title = "GullymarkAL";
+
+struct Box {
+    BoxKind kind = BoxKind::plain;
+    std::string text;
+    std::string title = application_title;
+
+    bool operator==(const Box&) const = default;
+};
+
+/// What a file dialog shows; see file_dialog.h.
+struct FileDialogRequest {
+    bool saving = false;
+    std::string title;
+    std::string filter;  // "Gullymark files (*.gmk)|*.gmk"
+    std::string initial_folder;
+    std::string file_name;
+    bool must_exist = false;
+};
+
+struct Outside {
+    /// Shows a modal box and waits. Closing a question without a choice is "no".
+    std::function<Answer(const Box&)> show_box;
+    /// Shows a modal file dialog and waits; the full path chosen, nothing when it was cancelled.
+    /// It asks no question about overwriting: each flow asks its own.
+    std::function<std::optional<std::string>(const FileDialogRequest&)> choose_file;
+    /// Opens a help file in the desktop's viewer. No report of success.
+    std::function<void(const std::string& path)> open_help;
+    /// Shows the wait pointer (true) or the normal one (false).
+    std::function<void(bool waiting)> show_wait_pointer;
+    std::function<void()> beep;
+    /// Seconds since midnight, local time, with its fraction.
+    std::function<double()> time_of_day;
+};
+
+extern Outside outside;
+
+/// A box with an OK button.
+void tell(const std::string& text, BoxKind kind = BoxKind::plain, const std::string& title = application_title);
+
+/// A question; true for Yes.
+bool ask(const std::string& text, BoxKind kind = BoxKind::warning_question,
+         const std::string& title = application_title);
+
+void show_wait_pointer(bool waiting);
+void beep();
+
+}  // namespace gullymark::platform
