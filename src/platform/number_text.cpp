@@ -76,7 +76,8 @@ struct Decimal {
 Decimal decimal_digits(double number) {
     std::array<char, 32> buffer{};
     const auto end =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::scientific, 14).ptr;
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::scientific, 14)
+            .ptr;
     Decimal decimal;
     const char* at = buffer.data();
     if (*at == '-') {

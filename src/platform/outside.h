@@ -52,7 +52,8 @@ struct Outside {
 extern Outside outside;
 
 /// A box with an OK button.
-void tell(const std::string& text, BoxKind kind = BoxKind::plain, const std::string& title = application_title);
+void tell(const std::string& text, BoxKind kind = BoxKind::plain,
+          const std::string& title = application_title);
 
 /// A question; true for Yes.
 bool ask(const std::string& text, BoxKind kind = BoxKind::warning_question,

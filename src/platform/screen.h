@@ -11,8 +11,8 @@ namespace gullymark::platform {
 enum class Colour { window, grey };
 
 struct Field {
-    std::string text;                  // what a field shows; of a bound field the column's text counts instead
-    std::string caption;               // of a label, a frame, a check box or a command
+    std::string text;     // what a field shows; of a bound field the column's text counts instead
+    std::string caption;  // of a label, a frame, a check box or a command
     std::vector<std::string> entries;  // of a list
     bool enabled = true;
     bool locked = false;  // shows, takes the focus, but no typing

@@ -16,10 +16,10 @@ struct ReadCase {
 
 TEST(NumberText, ReadsEveryFormOfTheGrammar) {
     const std::vector<ReadCase> cases = {
-        {"1", 1.0},       {" -2.50 ", -2.5},   {"+.5", 0.5},     {"3.", 3.0},    {"1e-3", 0.001},
-        {"007", 7.0},     {"1E+2", 100.0},     {"-0", 0.0},      {"  0 ", 0.0},  {"12.5e1", 125.0},
-        {"1e-400", 0.0},  {"-1e-999999", 0.0}, {"1e308", 1e308}, {"0e999", 0.0}, {"0.0000001e7", 1.0},
-        {"0e-999", 0.0},
+        {"1", 1.0},       {" -2.50 ", -2.5}, {"+.5", 0.5},         {"3.", 3.0},
+        {"1e-3", 0.001},  {"007", 7.0},      {"1E+2", 100.0},      {"-0", 0.0},
+        {"  0 ", 0.0},    {"12.5e1", 125.0}, {"1e-400", 0.0},      {"-1e-999999", 0.0},
+        {"1e308", 1e308}, {"0e999", 0.0},    {"0.0000001e7", 1.0}, {"0e-999", 0.0},
     };
     for (const auto& [text, number] : cases) {
         const NumberRead read = read_number(text);
@@ -29,9 +29,9 @@ TEST(NumberText, ReadsEveryFormOfTheGrammar) {
 }
 
 TEST(NumberText, RefusesEverythingElse) {
-    const std::vector<std::string> texts = {"",    " ",    ".",     "-",    "+.",   "1,000", "0x10", "inf",
-                                            "nan", "1.5ft", "1 2",  "- 1",  "1e",   "--1",   "1e+",  "e5",
-                                            ".e5", "1.2.3", "\t1", "1\n",  "1e5.0", "abc",  "-inf", "1_0"};
+    const std::vector<std::string> texts = {"",    " ",     ".",   "-",   "+.",    "1,000", "0x10", "inf",
+                                            "nan", "1.5ft", "1 2", "- 1", "1e",    "--1",   "1e+",  "e5",
+                                            ".e5", "1.2.3", "\t1", "1\n", "1e5.0", "abc",   "-inf", "1_0"};
     for (const auto& text : texts) {
         EXPECT_EQ(read_number(text).fault, NumberFault::unreadable) << '"' << text << '"';
         EXPECT_EQ(read_number(text).number, 0.0) << '"' << text << '"';

@@ -1,0 +1,124 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "engine/inlet_record.h"
+#include "engine/real.h"
+#include "engine/units.h"
+
+/// The one rule of the solvers: a step gives its target the value of its formula; if the formula cannot be evaluated
+/// (an arithmetic fault, an unreadable number) the target keeps the value it had, and the next step runs; a fault in
+/// a condition enters the branch.
+///
+/// Steps are numbered through a solver's sheet, one number for one statement, so that a test can trip each and a trace
+/// can name it.
+namespace gullymark::engine {
+
+/// A named number of a calculation sheet. It starts at 0.
+struct Quantity {
+    std::string_view symbol;
+    Unit unit = Unit::ratio;
+    std::string_view meaning;
+    Real value = 0.0;
+
+    operator Real() const {
+        return value;
+    }  // NOLINT(google-explicit-constructor): a symbol stands for its value
+};
+
+/// What one step did.
+struct TraceLine {
+    enum class Kind : unsigned char { number, text, condition };
+
+    int step = 0;
+    Kind kind = Kind::number;
+    Fault fault = Fault::none;  // other than none: abandoned, the target kept its value
+    Unit unit = Unit::ratio;
+    std::string_view symbol;   // of a condition: empty
+    std::string_view meaning;  // of a condition: empty
+    double number = 0.0;       // of a number after the step; of a condition 1 for entered
+    std::string text;          // of a text after the step
+};
+
+/// "12  T = 7.41 ft  spread of the gutter flow", "31  V abandoned: division by zero  velocity".
+std::string describe(const TraceLine& line);
+
+std::string_view fault_text(Fault fault);
+
+/// Who looks on while steps run. Nobody, most of the time.
+struct Onlooker {
+    std::vector<TraceLine>* trace = nullptr;  // takes a line for every step while it is set
+    int tripped_step = 0;                     // this step faults, whatever its formula; 0 for none
+};
+
+extern Onlooker onlooker;
+
+/// The number in a column's text. Faults on a text that is none, an empty one included.
+Real number_in(Column column);
+
+namespace detail {
+void note(int number, const Quantity& target, Fault fault);
+void note(int number, Column target, Fault fault);
+void note(int number, bool entered, Fault fault);
+inline void trip(int number) {
+    if (onlooker.tripped_step == number) {
+        throw Fault::tripped;
+    }
+}
+void write(Column target, Real number);
+void write(Column target, std::string_view text);
+}  // namespace detail
+
+/// A step that may fault to its caller, for a solver that ends at the first fault: `target` is a Quantity or a Column,
+/// `formula` gives a Real (a column takes its text of up to 15 digits) or, for a column, a text.
+template <typename Formula>
+void strict_step(int number, Quantity& target, Formula&& formula) {
+    detail::trip(number);
+    target.value = std::forward<Formula>(formula)();
+    if (onlooker.trace != nullptr) {
+        detail::note(number, target, Fault::none);
+    }
+}
+
+template <typename Formula>
+void strict_step(int number, Column target, Formula&& formula) {
+    detail::trip(number);
+    detail::write(target, std::forward<Formula>(formula)());
+    if (onlooker.trace != nullptr) {
+        detail::note(number, target, Fault::none);
+    }
+}
+
+/// A step under the rule above.
+template <typename Target, typename Formula>
+void step(int number, Target&& target, Formula&& formula) {
+    try {
+        strict_step(number, target, std::forward<Formula>(formula));
+    } catch (Fault fault) {
+        if (onlooker.trace != nullptr) {
+            detail::note(number, target, fault);
+        }
+    }
+}
+
+/// A condition under the rule above: a fault enters the branch.
+template <typename Condition>
+bool holds(int number, Condition&& condition) {
+    bool entered = true;
+    Fault caught = Fault::none;
+    try {
+        detail::trip(number);
+        entered = std::forward<Condition>(condition)();
+    } catch (Fault fault) {
+        caught = fault;
+    }
+    if (onlooker.trace != nullptr) {
+        detail::note(number, entered, caught);
+    }
+    return entered;
+}
+
+}  // namespace gullymark::engine
