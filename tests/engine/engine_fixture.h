@@ -1,0 +1,59 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "engine/inlet_record.h"
+#include "engine/solve.h"
+#include "engine/step.h"
+#include "engine/unit_constants.h"
+#include "platform/outside.h"
+
+namespace gullymark::engine {
+
+inline void PrintTo(Real number, std::ostream* out) {
+    *out << number.number();
+}
+
+/// A fresh engine in ENGLISH units whose boxes are kept in `boxes`.
+class EngineTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        UnitSystem = "ENGLISH";
+        unit_constants = {};
+        set_unit_defaults();
+        open_inlet = {};
+        onlooker = {};
+        DataSolved = false;
+        platform::outside = {};
+        platform::outside.show_box = [this](const platform::Box& box) {
+            boxes.push_back(box);
+            return platform::Answer::ok;
+        };
+    }
+    void TearDown() override {
+        platform::outside = {};
+        onlooker = {};
+    }
+
+    static void use_units(std::string_view units) {
+        UnitSystem = units;
+        set_unit_defaults();
+    }
+
+    static void fill(std::initializer_list<std::pair<Column, std::string_view>> values) {
+        for (const auto& [column, text] : values) {
+            open_inlet.load(column, std::string(text));
+        }
+    }
+
+    std::vector<platform::Box> boxes;
+};
+
+}  // namespace gullymark::engine
