@@ -21,7 +21,7 @@ void show(FileDialog& dialog, bool saving) {
                                     .filter = dialog.filter,
                                     .initial_folder = dialog.initial_folder,
                                     .file_name = dialog.file_name,
-                                    .must_exist = dialog.must_exist};
+                                    .must_exist = dialog.must_exist && !saving};
     const auto chosen = outside.choose_file ? outside.choose_file(request) : std::nullopt;
     if (!chosen) {
         if (dialog.cancel_is_error) {
@@ -33,10 +33,13 @@ void show(FileDialog& dialog, bool saving) {
     if (saving && path.has_filename() && !path.has_extension()) {
         path += extension_of(dialog.filter);
     }
-    dialog.file_name = path.string();
     if (path.has_parent_path()) {
+        // The name is told below the current folder as the system knows it, also where links led there: flows take
+        // the folder's length off the name's.
         set_current_folder(path.parent_path().string());
+        path = join_path(current_folder(), path.filename().string());
     }
+    dialog.file_name = path.string();
 }
 
 }  // namespace

@@ -10,7 +10,7 @@ struct FileDialog {
     std::string filter;  // "Gullymark files (*.gmk)|*.gmk"
     std::string initial_folder;
     std::string title;
-    bool must_exist = false;
+    bool must_exist = false;  // counts for opening alone
     /// A cancelled dialog is then a Failure; otherwise it leaves `file_name` as it was.
     bool cancel_is_error = false;
 

@@ -26,7 +26,7 @@ void copy_file(const std::string& source, const std::string& target) {
         std::filesystem::permissions(target, std::filesystem::perms::owner_write,
                                      std::filesystem::perm_options::add);
     } catch (const std::filesystem::filesystem_error& error) {
-        throw Failure(error.code().message() + ": " + target);
+        throw Failure(error.code().message() + ": " + (file_exists(source) ? target : source));
     }
 }
 

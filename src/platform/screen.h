@@ -23,4 +23,9 @@ struct Field {
     bool operator==(const Field&) const = default;
 };
 
+/// The check of a list field: true refuses leaving it. An entry's beginning passes and stays as typed, the empty text
+/// too; case counts. Any other text is refused in a box and becomes the first entry.
+/// A list without entries has nothing to check against: every text passes.
+bool CheckListValue(std::string& text, const std::vector<std::string>& entries);
+
 }  // namespace gullymark::platform

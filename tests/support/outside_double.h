@@ -6,6 +6,7 @@
 #include <fstream>
 #include <iterator>
 #include <optional>
+#include <ostream>
 #include <stdexcept>
 #include <string>
 #include <system_error>
@@ -14,6 +15,16 @@
 #include "platform/file_dialog.h"
 #include "platform/files.h"
 #include "platform/outside.h"
+
+namespace gullymark::platform {
+
+/// How a failed expectation shows a box.
+inline void PrintTo(const Box& box, std::ostream* out) {
+    *out << "box of kind " << static_cast<int>(box.kind) << " titled \"" << box.title << "\": \"" << box.text
+         << '"';
+}
+
+}  // namespace gullymark::platform
 
 namespace gullymark::testing_support {
 
