@@ -46,6 +46,9 @@ void Form_QueryUnload(int unload_mode);
 /// without closing anything.
 void open_designform();
 
+/// Hides the main window and shows the workspace, of whatever product the file is.
+void go_to_workspace();
+
 /// Opens the help file beside the program in the desktop's viewer. All help commands of all windows come here.
 void show_help();
 

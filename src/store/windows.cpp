@@ -1,0 +1,7 @@
+#include "store/windows.h"
+
+namespace gullymark::store {
+
+Windows windows;
+
+}  // namespace gullymark::store
