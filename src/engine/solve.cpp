@@ -60,8 +60,8 @@ bool cmdsolve_Click() {
 
 void solve_inlet() {
     clear_results();
-    const std::string location = open_inlet.text(Column::INLET_LOCATION);
-    const std::string type = open_inlet.text(Column::INLET_TYPE);
+    const std::string& location = open_inlet.text(Column::INLET_LOCATION);
+    const std::string& type = open_inlet.text(Column::INLET_TYPE);
     for (const auto& solver : solvers) {
         if (solver.location == location && solver.type == type) {
             solver.compute_results();

@@ -108,12 +108,9 @@ void round_half_away(Decimal& decimal, int decimals) {
     if (keep >= decimal.count) {
         return;
     }
-    const bool up = digit_at(decimal, keep) >= '5';
+    const bool up = keep >= 0 && digit_at(decimal, keep) >= '5';
     decimal.count = std::max(keep, 0);
     if (!up) {
-        return;
-    }
-    if (keep < 0) {
         return;
     }
     int at = keep - 1;
@@ -151,7 +148,7 @@ NumberRead read_number(std::string_view text) {
         at = skip_digits(fraction, end);
         digits += at - fraction;
     }
-    if (digits == 0 || (at = skip_exponent(at, end)) != end) {
+    if (digits == 0 || skip_exponent(at, end) != end) {
         return {.fault = NumberFault::unreadable};
     }
     double number = 0.0;

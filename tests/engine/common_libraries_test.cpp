@@ -146,7 +146,7 @@ TEST_F(GutterSpread, EverySearchEndsWhateverTheNumbers) {
 class DitchDepth : public EngineTest {};
 
 TEST_F(DitchDepth, TheDepthCarriesTheDischarge) {
-    const double M = static_cast<double>(1.486F);
+    const auto M = static_cast<double>(1.486F);
     const double y = compute_ditch_depth(1.486F, 9.9, 0.03, 0.03, 2.0, 6.0, 6.0).number();
     const double A = 2.0 * y + 6.0 * y * y;
     const double P = 2.0 + 2.0 * std::sqrt(y * y + 36.0 * y * y);

@@ -1,0 +1,31 @@
+#!/usr/bin/env bash
+# No include reaches from a lower layer into a higher one, Qt stays in the shell, SQLite in the platform.
+cd "$1" || exit 2
+failed=0
+
+# forbid FOLDER PATTERN: no include in src/FOLDER may match.
+forbid() {
+  local hits
+  hits=$(grep -rnE "^#include [<\"]($2)" "src/$1" 2>/dev/null)
+  if [ -n "$hits" ]; then
+    printf 'src/%s may not include this:\n%s\n' "$1" "$hits"
+    failed=1
+  fi
+}
+
+qt='Q[A-Za-z]|Qt[A-Z]|ui_'
+forbid platform  "engine/|catalogue/|store/|editor/|reports/|shell/|$qt"
+forbid engine    "catalogue/|store/|editor/|reports/|shell/|sqlite|$qt"
+forbid catalogue "store/|editor/|reports/|shell/|sqlite|$qt"
+forbid store     "engine/|catalogue/|editor/|reports/|shell/|sqlite|$qt"
+forbid editor    "reports/|shell/|sqlite|$qt"
+forbid reports   "editor/|shell/|sqlite|$qt"
+forbid shell     "sqlite|com/sun/star"
+
+# The link line says the same.
+hits=$(grep -lE 'Qt6::' src/*/CMakeLists.txt | grep -v '^src/shell/'; grep -lE 'SQLite' src/*/CMakeLists.txt | grep -v '^src/platform/')
+if [ -n "$hits" ]; then
+  printf 'links what it may not know:\n%s\n' "$hits"
+  failed=1
+fi
+exit $failed

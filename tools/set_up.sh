@@ -1,0 +1,56 @@
+#!/usr/bin/env bash
+# Installs what is missing of the Debian packages that GullymarkAL needs, and says what it does.
+#
+#   tools/set_up.sh build       to build and run the program
+#   tools/set_up.sh build test  to run every test and check as well
+set -euo pipefail
+
+build_packages=(
+  g++ cmake ninja-build
+  qt6-base-dev libqt6svg6-dev
+  libsqlite3-dev sqlite3
+)
+run_packages=(
+  libqt6svg6 fonts-dejavu-core xdg-utils
+)
+test_packages=(
+  libgtest-dev libgmock-dev
+  clang-format-14 clang-tidy-14
+  xvfb xauth openbox xdotool x11-utils imagemagick
+)
+bench_packages=(libbenchmark-dev)
+fuzz_packages=(clang-14 libclang-rt-14-dev)
+
+wanted=()
+for group in "$@"; do
+  case "$group" in
+    build) wanted+=("${build_packages[@]}" "${run_packages[@]}") ;;
+    test) wanted+=("${test_packages[@]}") ;;
+    bench) wanted+=("${bench_packages[@]}") ;;
+    fuzz) wanted+=("${fuzz_packages[@]}") ;;
+    *) echo "set_up: no group '$group': build, test, bench, fuzz" >&2; exit 2 ;;
+  esac
+done
+
+missing=()
+for package in "${wanted[@]}"; do
+  if ! dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q '^install ok installed$'; then
+    missing+=("$package")
+  fi
+done
+if [ ${#missing[@]} -eq 0 ]; then
+  exit 0
+fi
+
+if ! command -v apt-get >/dev/null; then
+  echo "set_up: this is no Debian system; install by hand what stands for: ${missing[*]}" >&2
+  exit 1
+fi
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+  as_root=(sudo)
+fi
+echo "set_up: installing ${missing[*]}"
+"${as_root[@]}" apt-get update -qq
+DEBIAN_FRONTEND=noninteractive "${as_root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+echo "set_up: done"
