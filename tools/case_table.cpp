@@ -28,18 +28,6 @@ bool is_expectation(const std::string& column) {
     return column.starts_with('=');
 }
 
-void load_row(const Table& table, const std::vector<std::string>& row) {
-    engine::open_inlet = {};
-    for (std::size_t i = 0; i < table.columns.size(); ++i) {
-        if (table.columns[i] == "UNITS") {
-            engine::UnitSystem = row[i];
-        } else if (const auto column = engine::column_named(table.columns[i])) {
-            engine::open_inlet.load(*column, row[i]);
-        }
-    }
-    engine::set_unit_defaults();
-}
-
 }  // namespace
 
 Table read_table(const std::string& path) {
@@ -59,6 +47,18 @@ Table read_table(const std::string& path) {
         }
     }
     return table;
+}
+
+void load_row(const Table& table, const std::vector<std::string>& row) {
+    engine::open_inlet = {};
+    for (std::size_t i = 0; i < table.columns.size(); ++i) {
+        if (table.columns[i] == "UNITS") {
+            engine::UnitSystem = row[i];
+        } else if (const auto column = engine::column_named(table.columns[i])) {
+            engine::open_inlet.load(*column, row[i]);
+        }
+    }
+    engine::set_unit_defaults();
 }
 
 std::map<std::string, std::string> solve_row(const Table& table, const std::vector<std::string>& row) {

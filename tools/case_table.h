@@ -30,7 +30,10 @@ struct Comparison {
     std::vector<Difference> differences;
 };
 
-/// Puts the row into the open inlet and solves it as the command SOLVE does. What the boxes said is in `=messages`,
+/// Puts the row's inputs into a fresh open inlet and sets the unit system.
+void load_row(const Table& table, const std::vector<std::string>& row);
+
+/// Loads a row and solves it as the command SOLVE does. What the boxes said is in `=messages`,
 /// whether the solver ran in `=solved`, every other column by its name.
 std::map<std::string, std::string> solve_row(const Table& table, const std::vector<std::string>& row);
 
