@@ -1,0 +1,70 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "editor/data_control.h"
+#include "platform/menu.h"
+#include "platform/screen.h"
+#include "store/main_window.h"
+
+/// The listing window `frminletflex`: all inlets, nothing to change. Row 0 of its grid is the heading.
+namespace gullymark::editor {
+
+struct InletList {
+    std::string caption = "Inlet Listing - VIEW MODE";
+    bool loaded = false;
+    bool visible = false;          // hidden while the record view is shown
+    platform::RowSet flexinletRS;  // for counting
+    DataControl Adodc1;            // behind the grid
+    int row = 0;                   // the current row of inletflex, marked whole; 0: none
+    std::int16_t kept_row = 0;
+    int loads = 0;  // rises whenever the rows were read anew: what was shown is old
+    platform::Field rec_count;
+    std::string ViewInletNumber;  // the inlet that was picked, and its previous inlets
+    std::string ViewPreinlet1;
+    std::string ViewPreinlet2;
+};
+
+extern InletList frminletflex;
+
+inline constexpr std::string_view list_count_label = "Total Number of Inlets in the Project Database:";
+
+inline constexpr std::array<std::string_view, 10> list_headings{
+    "INLET_ID",  "STATION", "OFFSET",     "TYPE",       "LOCATION",
+    "INLET STD", "LENGTH",  "PRE-INLET1", "PRE-INLET2", "DISCHARGE"};
+
+/// Every column is 1200 twips wide: 20 of them are a point.
+inline constexpr int list_column_points = 60;
+
+/// Shows the window, modeless, loading it first if it is not loaded.
+void show_inlet_list();
+void unload_inlet_list();
+
+void get_flexinlet_records();
+
+/// A click or a key went to a row.
+void inletflex_EnterCell(int row);
+void inletflex_Click();
+/// Shows the record of the row in the record view; the heading does nothing.
+void inletflex_DblClick();
+
+std::string list_cell(int row, std::size_t column);
+
+void refresh_inlet_list();
+void exit_inlet_list();
+
+using ListMenuItem = platform::MenuItem<InletList>;
+
+inline constexpr std::array<ListMenuItem, 6> list_menu{{
+    {"mnuflexfile", "&File", ""},
+    {"mnuflexrefresh", "&Refresh", "mnuflexfile", refresh_inlet_list},
+    {"mnuflexexit", "E&xit", "mnuflexfile", exit_inlet_list},
+    {"mnuflexhelpmenu", "&Help", ""},
+    {"mnuflexhelp", "&Help", "mnuflexhelpmenu", store::show_help},
+    {"mnuflexabout", "&About", "mnuflexhelpmenu", store::show_about_box},
+}};
+
+}  // namespace gullymark::editor

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// The one place where rows of INLET are made and changed. Solve never saves, Save never solves, and Save refuses an
+/// inlet that changed after its last Solve.
+namespace gullymark::editor {
+
+// Opening and closing the form.
+void load_inlet_editor();
+/// Releases the row sets and forgets the form's state.
+void unload_inlet_editor();
+/// True refuses to close: the parent window closes (reason 4), which unloads the form itself.
+bool refuses_to_close(int reason);
+
+// Row sets. A failure is told in a plain box with the store's description and ends the operation.
+void get_all_projectrecords();
+/// All inlets for an empty key, else those of that number.
+void get_inlet_records(const std::string& key);
+/// The fields show the current row of `adoInletRS`; without one they are empty.
+void attach_inlet_datasource();
+/// Goes to the inlet of that number; none leaves the row set at its end and the form empty. Failures are ignored.
+void Inletrecord_find(const std::string& number);
+
+// Commands, as the workspace calls them after its own questions.
+void SetAddrecord();
+void SetCopyrecord();
+void SetEditRecord();
+void SaveinletRecord();
+void current_record_delete();
+void modifyinlet();
+
+// Their parts.
+void AddRecord();
+void AddCopiedRecord();
+void CaptureInletFields();
+void RestoreInletFields();
+void UpdateRecord();
+void CancelUpdate();
+
+/// The open inlet is about to change: reason 1 is a new row, 11 its first change. Both make it unsolved.
+void adoInletRS_WillChangeRecord(int reason);
+
+// Pages of the form.
+void SSTab1_Click(int previous_tab);
+void set_tab_display(int tab);
+/// Shows a page as if its tab was clicked.
+void show_tab(int tab);
+
+}  // namespace gullymark::editor
