@@ -27,6 +27,7 @@ class Connection {
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
     Connection(Connection&&) noexcept;
+    /// Takes the other's file; the one that was open here goes to the other and closes with it.
     Connection& operator=(Connection&&) noexcept;
 
     /// Opens an existing project file for reading and writing; it reads the schema at once, so that what is no
@@ -45,12 +46,15 @@ class Connection {
     [[nodiscard]] const std::shared_ptr<DatabaseHandle>& handle() const { return handle_; }
 
   private:
+    void close_handle();
+
     std::shared_ptr<DatabaseHandle> handle_;
 };
 
 /// The rows of one `SELECT list FROM table [WHERE ...] [ORDER BY ...]`: the keys in order, held by the client, and a
-/// current position. A row is read when it is looked at and written alone, at once and whole.
-/// Every operation fails on a row set that is not open or whose connection was closed.
+/// current position. A row is read when it is looked at and written alone, at once and whole; the current row stays
+/// as it was read until the position moves. The list holds plain columns of the table, with or without aliases.
+/// Every operation but `close` and `is_open` fails on a row set that is not open or whose connection was closed.
 class RowSet {
   public:
     RowSet();
@@ -71,7 +75,7 @@ class RowSet {
     /// Column names as the statement gives them, aliases included.
     [[nodiscard]] const std::vector<std::string>& columns() const;
 
-    // Position. An empty set is at its beginning and its end.
+    // Position. An empty set is at its beginning and its end. A move drops a pending new row.
     [[nodiscard]] bool at_beginning() const;  // before the first row
     [[nodiscard]] bool at_end() const;        // behind the last row
     void move_first();
@@ -86,22 +90,21 @@ class RowSet {
     [[nodiscard]] std::int64_t bookmark() const;
     void go_to(std::int64_t bookmark);
 
-    // The current row. Failure when there is none: at an end marker.
+    // The current row. Failure when there is none: at an end marker. A pending new row reads as nulls.
     [[nodiscard]] Row row() const;
     [[nodiscard]] std::optional<std::string> value(std::string_view column) const;
 
     /// The row at `index` (0 is the first), wherever the current position is: for lists.
     [[nodiscard]] Row row_at(std::size_t index) const;
-    /// One column of all rows in order, read at once: for lists.
+    /// One column of all rows in order, read at once: for lists. Null for a row that is no longer in the file.
     [[nodiscard]] Row all_values(std::string_view column) const;
 
-    // Changing. Only for statements whose columns are plain columns of the table.
     /// Makes a new row pending; `save` stores it behind the last row of the set.
     void add_new();
     [[nodiscard]] bool adding() const;
     /// Stores `values`, in the order of `columns()`, as the pending new row or into the current row, in one statement
-    /// that is carried out whole or not at all. Only columns that differ from what was loaded are written. A row that
-    /// is no longer in the file is a failure.
+    /// that is carried out whole or not at all. Only columns that differ from what was loaded are written; in a new
+    /// row those that are null take the table's defaults. A row that is no longer in the file is a failure.
     void save(const Row& values);
     /// Drops the pending new row and goes back to the row that was current before; nothing is written.
     void cancel();
@@ -112,6 +115,7 @@ class RowSet {
 
   private:
     struct State;
+    [[nodiscard]] State& state() const;
     std::unique_ptr<State> state_;
 };
 

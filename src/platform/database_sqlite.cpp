@@ -1,0 +1,71 @@
+#include "platform/database_sqlite.h"
+
+#include "platform/failure.h"
+
+namespace gullymark::platform {
+
+void DatabaseHandle::close() {
+    sqlite3_close(file);
+    file = nullptr;
+}
+
+Statement::Statement(sqlite3* file, std::string_view text) : file_(file) {
+    const char* tail = nullptr;
+    if (sqlite3_prepare_v2(file, text.data(), static_cast<int>(text.size()), &statement_, &tail) !=
+        SQLITE_OK) {
+        throw Failure(sqlite3_errmsg(file));
+    }
+    const auto rest = text.substr(static_cast<std::size_t>(tail - text.data()));
+    if (statement_ == nullptr || rest.find_first_not_of(" \t\r\n") != std::string_view::npos) {
+        sqlite3_finalize(statement_);
+        throw Failure(statement_ == nullptr ? "there is no statement to run"
+                                            : "there is text after the end of the statement");
+    }
+}
+
+void Statement::bind(int parameter, std::int64_t key) {
+    sqlite3_bind_int64(statement_, parameter, key);
+}
+
+void Statement::bind(int parameter, const std::optional<std::string>& text) {
+    const int result = text ? sqlite3_bind_text(statement_, parameter, text->data(),
+                                                static_cast<int>(text->size()), SQLITE_TRANSIENT)
+                            : sqlite3_bind_null(statement_, parameter);
+    if (result != SQLITE_OK) {
+        throw Failure(sqlite3_errmsg(file_));
+    }
+}
+
+bool Statement::step() {
+    const int result = sqlite3_step(statement_);
+    if (result != SQLITE_ROW && result != SQLITE_DONE) {
+        throw Failure(sqlite3_errmsg(file_));
+    }
+    return result == SQLITE_ROW;
+}
+
+void Statement::run() {
+    while (step()) {
+    }
+}
+
+std::optional<std::string> Statement::text(int column) const {
+    const unsigned char* bytes = sqlite3_column_text(statement_, column);
+    if (bytes == nullptr) {
+        return std::nullopt;
+    }
+    return std::string(bytes, bytes + sqlite3_column_bytes(statement_, column));
+}
+
+std::string quoted_name(std::string_view name) {
+    std::string quoted = "\"";
+    for (const char letter : name) {
+        quoted += letter;
+        if (letter == '"') {
+            quoted += letter;
+        }
+    }
+    return quoted + '"';
+}
+
+}  // namespace gullymark::platform

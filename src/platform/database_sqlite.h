@@ -1,0 +1,66 @@
+#pragma once
+
+#include <sqlite3.h>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// What the two parts of the database adapter share: the open file, one prepared statement, failures.
+namespace gullymark::platform {
+
+/// Marks a project file of this product in the header of the file: "GMK1". The template carries it, so every copy does.
+inline constexpr std::int64_t project_application_id = 0x474D4B31;
+
+/// The open file. Row sets share it with their connection, which sets it to null when it closes.
+struct DatabaseHandle {
+    sqlite3* file = nullptr;
+
+    DatabaseHandle() = default;
+    ~DatabaseHandle() { close(); }
+    DatabaseHandle(const DatabaseHandle&) = delete;
+    DatabaseHandle& operator=(const DatabaseHandle&) = delete;
+    DatabaseHandle(DatabaseHandle&&) = delete;
+    DatabaseHandle& operator=(DatabaseHandle&&) = delete;
+
+    void close();
+};
+
+/// One statement for as long as it runs. It never outlives a call: an open one would hold a lock on the file and
+/// keep every other connection from storing.
+class Statement {
+  public:
+    /// Fails on a faulty statement, on none, and on text behind its end.
+    Statement(sqlite3* file, std::string_view text);
+    ~Statement() { sqlite3_finalize(statement_); }
+    Statement(const Statement&) = delete;
+    Statement& operator=(const Statement&) = delete;
+    Statement(Statement&&) = delete;
+    Statement& operator=(Statement&&) = delete;
+
+    /// Parameters count from 1.
+    void bind(int parameter, std::int64_t key);
+    void bind(int parameter, const std::optional<std::string>& text);
+
+    /// True when there is a row to look at, false at the end.
+    bool step();
+    /// Steps through all of it, rows or none.
+    void run();
+
+    // Columns count from 0.
+    [[nodiscard]] int column_count() const { return sqlite3_column_count(statement_); }
+    [[nodiscard]] std::optional<std::string> text(int column) const;
+    [[nodiscard]] std::int64_t integer(int column) const { return sqlite3_column_int64(statement_, column); }
+
+    [[nodiscard]] sqlite3_stmt* get() const { return statement_; }
+
+  private:
+    sqlite3* file_;
+    sqlite3_stmt* statement_ = nullptr;
+};
+
+/// `name` between double quotes, as a statement takes any name.
+std::string quoted_name(std::string_view name);
+
+}  // namespace gullymark::platform

@@ -1,0 +1,151 @@
+#include "platform/database_statements.h"
+
+#include <algorithm>
+#include <array>
+
+namespace gullymark::platform {
+namespace {
+
+bool is_name_letter(char letter) {
+    return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z') ||
+           (letter >= '0' && letter <= '9') || letter == '_' || letter == '$' || (letter & 0x80) != 0;
+}
+
+bool same_word(std::string_view word, std::string_view upper_case) {
+    return std::ranges::equal(word, upper_case,
+                              [](char a, char b) { return (a >= 'a' && a <= 'z' ? a - 'a' + 'A' : a) == b; });
+}
+
+/// Goes through a statement piece by piece: a word, a quoted text or name with its quote marks, or one other
+/// character. Blanks between are skipped.
+struct Pieces {
+    std::string_view text;
+    std::size_t at = 0;
+
+    /// The next piece, which stays the next one; empty at the end.
+    std::string_view peek() {
+        at = std::min(text.find_first_not_of(" \t\r\n", at), text.size());
+        return text.substr(at, piece_length());
+    }
+
+    std::string_view take() {
+        const auto piece = peek();
+        at += piece.size();
+        return piece;
+    }
+
+    bool take_word(std::string_view upper_case) {
+        if (!same_word(peek(), upper_case)) {
+            return false;
+        }
+        take();
+        return true;
+    }
+
+  private:
+    [[nodiscard]] std::size_t piece_length() const {
+        if (at == text.size()) {
+            return 0;
+        }
+        static constexpr std::array<std::string_view, 4> quote_marks{"''", "\"\"", "``", "[]"};
+        for (const auto marks : quote_marks) {
+            if (text[at] == marks.front()) {
+                const auto end = text.find(marks.back(), at + 1);
+                return end == std::string_view::npos ? text.size() - at : end + 1 - at;
+            }
+        }
+        const auto word = text.substr(at);
+        const auto end = std::ranges::find_if_not(word, is_name_letter);
+        return std::max<std::size_t>(1, static_cast<std::size_t>(end - word.begin()));
+    }
+};
+
+/// The name that a piece stands for, without brackets or quote marks; nothing when it is no name.
+std::optional<std::string> name_of(std::string_view piece) {
+    if (piece.size() > 2 &&
+        ((piece.front() == '[' && piece.back() == ']') || (piece.front() == '"' && piece.back() == '"'))) {
+        return std::string(piece.substr(1, piece.size() - 2));
+    }
+    if (piece.empty() || !is_name_letter(piece.front())) {
+        return std::nullopt;
+    }
+    return std::string(piece);
+}
+
+/// How a piece changes the depth of parentheses.
+int nesting(std::string_view piece) {
+    return piece == "(" ? 1 : piece == ")" ? -1 : 0;
+}
+
+/// A text between single quote marks, a doubled mark standing for one; nothing when it has no end.
+std::optional<std::string> take_text(Pieces& pieces) {
+    if (!pieces.peek().starts_with('\'')) {
+        return std::nullopt;
+    }
+    std::string text;
+    for (std::size_t at = pieces.at + 1; at < pieces.text.size(); ++at) {
+        if (pieces.text[at] == '\'' && pieces.text.substr(at, 2) != "''") {
+            pieces.at = at + 1;
+            return text;
+        }
+        text += pieces.text[at];
+        at += pieces.text[at] == '\'' ? 1U : 0U;
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::vector<std::string> split_alter(std::string_view statement) {
+    Pieces pieces{statement};
+    if (!pieces.take_word("ALTER") || !pieces.take_word("TABLE") || !name_of(pieces.take()) ||
+        !pieces.take_word("ADD")) {
+        return {std::string(statement)};
+    }
+    const std::string start = std::string(statement.substr(0, pieces.at)) + " ";
+    std::vector<std::string> statements;
+    pieces.peek();
+    std::size_t begin = pieces.at;
+    int depth = 0;
+    while (!pieces.peek().empty()) {
+        const auto piece = pieces.take();
+        depth += nesting(piece);
+        if (piece == "," && depth == 0) {
+            statements.push_back(start + std::string(statement.substr(begin, pieces.at - 1 - begin)));
+            pieces.peek();
+            begin = pieces.at;
+        }
+    }
+    statements.push_back(start + std::string(statement.substr(begin)));
+    return statements;
+}
+
+std::optional<std::string> keys_statement(std::string_view select) {
+    Pieces pieces{select};
+    if (!pieces.take_word("SELECT")) {
+        return std::nullopt;
+    }
+    int depth = 0;
+    while (!pieces.peek().empty()) {
+        if (depth == 0 && same_word(pieces.peek(), "FROM")) {
+            return "SELECT rowid " + std::string(select.substr(pieces.at));
+        }
+        depth += nesting(pieces.take());
+    }
+    return std::nullopt;
+}
+
+std::optional<Condition> read_condition(std::string_view condition) {
+    Pieces pieces{condition};
+    auto column = name_of(pieces.take());
+    if (!column || pieces.take() != "=") {
+        return std::nullopt;
+    }
+    auto text = take_text(pieces);
+    if (!text || !pieces.peek().empty()) {
+        return std::nullopt;
+    }
+    return Condition{.column = *column, .text = *text};
+}
+
+}  // namespace gullymark::platform

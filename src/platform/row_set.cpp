@@ -1,0 +1,370 @@
+#include <algorithm>
+#include <unordered_map>
+#include <utility>
+
+#include "platform/database.h"
+#include "platform/database_sqlite.h"
+#include "platform/database_statements.h"
+#include "platform/failure.h"
+
+namespace gullymark::platform {
+namespace {
+
+/// What a statement's list stands for: the names that the row set shows, and the columns of the table behind them.
+struct Source {
+    std::string table;
+    std::vector<std::string> columns;
+    std::vector<std::string> names;
+};
+
+Source read_source(sqlite3* file, const std::string& statement) {
+    const Statement select(file, statement);
+    if (select.column_count() == 0) {
+        throw Failure("the statement returns no rows");
+    }
+    Source source;
+    for (int column = 0; column < select.column_count(); ++column) {
+        const char* table = sqlite3_column_table_name(select.get(), column);
+        const char* origin = sqlite3_column_origin_name(select.get(), column);
+        if (table == nullptr || origin == nullptr || (column > 0 && source.table != table)) {
+            throw Failure("a row set holds columns of one table only");
+        }
+        source.table = table;
+        source.columns.emplace_back(origin);
+        source.names.emplace_back(sqlite3_column_name(select.get(), column));
+    }
+    return source;
+}
+
+std::vector<std::int64_t> read_keys(Statement& query) {
+    std::vector<std::int64_t> keys;
+    while (query.step()) {
+        keys.push_back(query.integer(0));
+    }
+    return keys;
+}
+
+/// The quoted names, each with `after` behind it, joined by commas.
+std::string joined(const std::vector<std::string>& columns, std::string_view after = "") {
+    std::string text;
+    for (const auto& column : columns) {
+        text.append(text.empty() ? "" : ",").append(quoted_name(column)).append(after);
+    }
+    return text;
+}
+
+}  // namespace
+
+/// The position counts from 0; -1 is before the first row and the number of rows behind the last.
+struct RowSet::State {
+    std::shared_ptr<DatabaseHandle> handle;
+    std::string select;
+    Source source;
+    std::vector<std::int64_t> keys;
+    std::int64_t position = 0;
+    bool adding = false;
+    std::optional<Row> loaded;  // the current row as it was read
+
+    [[nodiscard]] sqlite3* file() const {
+        if (handle->file == nullptr) {
+            throw Failure("the connection is not open");
+        }
+        return handle->file;
+    }
+
+    [[nodiscard]] std::int64_t count() const { return static_cast<std::int64_t>(keys.size()); }
+
+    void run_query();
+    /// Goes to a position, or to the end marker beyond which it lies.
+    void go(std::int64_t to);
+    [[nodiscard]] std::int64_t current_key() const;
+    [[nodiscard]] std::size_t index_of(std::string_view column) const;
+    [[nodiscard]] Row read(std::int64_t key) const;
+    const Row& load();
+    void insert(const Row& values);
+    void update(const Row& values);
+};
+
+void RowSet::State::run_query() {
+    auto new_source = read_source(file(), select);
+    const auto keys_query = keys_statement(select);
+    if (!keys_query) {
+        throw Failure("a row set is opened on SELECT list FROM table");
+    }
+    Statement query(file(), *keys_query);
+    keys = read_keys(query);
+    source = std::move(new_source);
+    go(0);
+}
+
+void RowSet::State::go(std::int64_t to) {
+    position = std::clamp<std::int64_t>(to, -1, count());
+    adding = false;
+    loaded.reset();
+}
+
+std::int64_t RowSet::State::current_key() const {
+    if (adding || position < 0 || position >= count()) {
+        throw Failure("there is no current row");
+    }
+    return keys[static_cast<std::size_t>(position)];
+}
+
+std::size_t RowSet::State::index_of(std::string_view column) const {
+    const auto found = std::ranges::find(source.names, column);
+    if (found == source.names.end()) {
+        throw Failure("no such column: " + std::string(column));
+    }
+    return static_cast<std::size_t>(found - source.names.begin());
+}
+
+Row RowSet::State::read(std::int64_t key) const {
+    Statement query(file(), "SELECT " + joined(source.columns) + " FROM " + quoted_name(source.table) +
+                                " WHERE rowid = ?1");
+    query.bind(1, key);
+    if (!query.step()) {
+        throw Failure("the row is no longer in the file");
+    }
+    Row row(source.columns.size());
+    for (std::size_t column = 0; column < row.size(); ++column) {
+        row[column] = query.text(static_cast<int>(column));
+    }
+    return row;
+}
+
+const Row& RowSet::State::load() {
+    if (!loaded) {
+        loaded = adding ? Row(source.columns.size()) : read(current_key());
+    }
+    return *loaded;
+}
+
+void RowSet::State::insert(const Row& values) {
+    std::vector<std::string> columns;
+    std::string parameters;
+    for (std::size_t column = 0; column < values.size(); ++column) {
+        if (values[column]) {
+            columns.push_back(source.columns[column]);
+            parameters += parameters.empty() ? "?" : ",?";
+        }
+    }
+    const std::string list =
+        columns.empty() ? " DEFAULT VALUES" : " (" + joined(columns) + ") VALUES (" + parameters + ")";
+    Statement statement(file(), "INSERT INTO " + quoted_name(source.table) + list);
+    int parameter = 0;
+    for (const auto& value : values) {
+        if (value) {
+            statement.bind(++parameter, value);
+        }
+    }
+    statement.run();
+    keys.push_back(sqlite3_last_insert_rowid(file()));
+    go(count() - 1);
+}
+
+void RowSet::State::update(const Row& values) {
+    const auto key = current_key();
+    const Row& old = load();
+    std::vector<std::string> columns;
+    std::vector<std::size_t> changed;
+    for (std::size_t column = 0; column < values.size(); ++column) {
+        if (values[column] != old[column]) {
+            columns.push_back(source.columns[column]);
+            changed.push_back(column);
+        }
+    }
+    if (changed.empty()) {
+        static_cast<void>(read(key));  // nothing to write, but only a row that is there counts as stored
+        return;
+    }
+    Statement statement(
+        file(), "UPDATE " + quoted_name(source.table) + " SET " + joined(columns, "=?") + " WHERE rowid = ?");
+    int parameter = 0;
+    for (const auto column : changed) {
+        statement.bind(++parameter, values[column]);
+    }
+    statement.bind(++parameter, key);
+    statement.run();
+    if (sqlite3_changes(file()) != 1) {
+        throw Failure("the row is no longer in the file");
+    }
+    loaded = values;
+}
+
+RowSet::RowSet() = default;
+RowSet::~RowSet() = default;
+RowSet::RowSet(RowSet&&) noexcept = default;
+RowSet& RowSet::operator=(RowSet&&) noexcept = default;
+
+RowSet::State& RowSet::state() const {
+    if (!state_) {
+        throw Failure("the row set is not open");
+    }
+    static_cast<void>(state_->file());
+    return *state_;
+}
+
+void RowSet::open(const Connection& connection, const std::string& statement) {
+    if (!connection.is_open()) {
+        throw Failure("the connection is not open");
+    }
+    auto opened = std::make_unique<State>();
+    opened->handle = connection.handle();
+    opened->select = statement;
+    opened->run_query();
+    state_ = std::move(opened);
+}
+
+void RowSet::close() {
+    state_.reset();
+}
+
+bool RowSet::is_open() const {
+    return state_ != nullptr;
+}
+
+std::size_t RowSet::record_count() const {
+    return state().keys.size();
+}
+
+const std::vector<std::string>& RowSet::columns() const {
+    return state().source.names;
+}
+
+bool RowSet::at_beginning() const {
+    const auto& set = state();
+    return !set.adding && (set.position < 0 || set.keys.empty());
+}
+
+bool RowSet::at_end() const {
+    const auto& set = state();
+    return !set.adding && (set.position >= set.count() || set.keys.empty());
+}
+
+void RowSet::move_first() {
+    state().go(0);
+}
+
+void RowSet::move_last() {
+    auto& set = state();
+    set.go(set.count() - 1);
+}
+
+void RowSet::move_next() {
+    move(1);
+}
+
+void RowSet::move(std::int64_t rows) {
+    auto& set = state();
+    const auto farthest = set.count() + 1;
+    set.go(set.position + std::clamp(rows, -farthest, farthest));
+}
+
+void RowSet::find(const std::string& condition) {
+    auto& set = state();
+    const auto searched = read_condition(condition);
+    if (!searched) {
+        throw Failure("a condition has the form COLUMN = 'text': " + condition);
+    }
+    const auto& column = set.source.columns[set.index_of(searched->column)];
+    Statement query(set.file(), "SELECT rowid FROM " + quoted_name(set.source.table) + " WHERE " +
+                                    quoted_name(column) + " = ?1 ORDER BY rowid");
+    query.bind(1, searched->text);
+    const auto found = read_keys(query);
+    const auto is_found = [&](std::int64_t key) { return std::ranges::binary_search(found, key); };
+    const auto start = set.keys.begin() + std::max<std::int64_t>(set.position, 0);
+    set.go(std::find_if(start, set.keys.end(), is_found) - set.keys.begin());
+}
+
+std::int64_t RowSet::bookmark() const {
+    return state().current_key();
+}
+
+void RowSet::go_to(std::int64_t bookmark) {
+    auto& set = state();
+    const auto found = std::ranges::find(set.keys, bookmark);
+    if (found == set.keys.end()) {
+        throw Failure("the bookmarked row is no longer in the set");
+    }
+    set.go(found - set.keys.begin());
+}
+
+Row RowSet::row() const {
+    return state().load();
+}
+
+std::optional<std::string> RowSet::value(std::string_view column) const {
+    auto& set = state();
+    return set.load()[set.index_of(column)];
+}
+
+Row RowSet::row_at(std::size_t index) const {
+    const auto& set = state();
+    if (index >= set.keys.size()) {
+        throw Failure("there is no row " + std::to_string(index));
+    }
+    return set.read(set.keys[index]);
+}
+
+Row RowSet::all_values(std::string_view column) const {
+    const auto& set = state();
+    const auto& name = set.source.columns[set.index_of(column)];
+    Statement query(set.file(),
+                    "SELECT rowid, " + quoted_name(name) + " FROM " + quoted_name(set.source.table));
+    std::unordered_map<std::int64_t, std::optional<std::string>> values;
+    values.reserve(set.keys.size());
+    while (query.step()) {
+        values.emplace(query.integer(0), query.text(1));
+    }
+    Row in_order;
+    in_order.reserve(set.keys.size());
+    for (const auto key : set.keys) {
+        in_order.push_back(std::move(values[key]));
+    }
+    return in_order;
+}
+
+void RowSet::add_new() {
+    auto& set = state();
+    set.go(set.position);
+    set.adding = true;
+}
+
+bool RowSet::adding() const {
+    return state().adding;
+}
+
+void RowSet::save(const Row& values) {
+    auto& set = state();
+    if (values.size() != set.source.columns.size()) {
+        throw Failure("a row has a value for each column");
+    }
+    if (set.adding) {
+        set.insert(values);
+    } else {
+        set.update(values);
+    }
+}
+
+void RowSet::cancel() {
+    auto& set = state();
+    set.go(set.position);
+}
+
+void RowSet::remove() {
+    auto& set = state();
+    Statement statement(set.file(), "DELETE FROM " + quoted_name(set.source.table) + " WHERE rowid = ?1");
+    statement.bind(1, set.current_key());
+    statement.run();
+    if (sqlite3_changes(set.file()) != 1) {
+        throw Failure("the row is no longer in the file");
+    }
+    set.keys.erase(set.keys.begin() + set.position);
+    set.go(set.position);
+}
+
+void RowSet::requery() {
+    state().run_query();
+}
+
+}  // namespace gullymark::platform

@@ -1,0 +1,105 @@
+#pragma once
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <functional>
+#include <stdexcept>
+#include <string>
+
+namespace gullymark::testing_support {
+
+/// A process of its own for a part of a test. It never returns from `action` into the test.
+class ChildProcess {
+  public:
+    explicit ChildProcess(const std::function<void()>& action) : id_(fork()) {
+        if (id_ == 0) {
+            try {
+                action();
+            } catch (...) {
+                _exit(1);
+            }
+            _exit(0);
+        }
+        if (id_ < 0) {
+            throw std::runtime_error("no child process");
+        }
+    }
+    ~ChildProcess() { wait(); }
+    ChildProcess(const ChildProcess&) = delete;
+    ChildProcess& operator=(const ChildProcess&) = delete;
+
+    /// Ends it on the spot, as a crash or a power cut would.
+    void kill() const { ::kill(id_, SIGKILL); }
+
+    /// Waits for its end; true when it came to it by itself and without an exception.
+    bool wait() {
+        if (id_ > 0) {
+            int status = 0;
+            while (waitpid(id_, &status, 0) < 0 && errno == EINTR) {
+            }
+            id_ = 0;
+            ended_well_ = WIFEXITED(status) && WEXITSTATUS(status) == 0;
+        }
+        return ended_well_;
+    }
+
+  private:
+    pid_t id_;
+    bool ended_well_ = false;
+};
+
+/// One-way texts between two processes.
+class Pipe {
+  public:
+    Pipe() {
+        if (pipe(ends_.data()) != 0) {
+            throw std::runtime_error("no pipe");
+        }
+    }
+    ~Pipe() {
+        close(ends_[0]);
+        close(ends_[1]);
+    }
+    Pipe(const Pipe&) = delete;
+    Pipe& operator=(const Pipe&) = delete;
+
+    void write(const std::string& text) const {
+        if (::write(ends_[1], text.data(), text.size()) < 0) {
+            throw std::runtime_error("nobody reads");
+        }
+    }
+    /// What has been written, after waiting for it.
+    [[nodiscard]] std::string read() const {
+        std::string text(4096, ' ');
+        const auto count = ::read(ends_[0], text.data(), text.size());
+        text.resize(count < 0 ? 0 : static_cast<std::size_t>(count));
+        return text;
+    }
+
+  private:
+    std::array<int, 2> ends_{};
+};
+
+/// What `action` returns when it runs as a user whom file permissions hold; root passes over them. Empty when this
+/// machine does not let root become such a user.
+inline std::string run_unprivileged(const std::function<std::string()>& action) {
+    if (geteuid() != 0) {
+        return action();
+    }
+    constexpr id_t nobody = 65534;
+    const Pipe answer;
+    ChildProcess child([&] {
+        const bool changed = setgid(nobody) == 0 && setuid(nobody) == 0;
+        answer.write(changed ? "+" + action() : "-");
+    });
+    if (!child.wait()) {
+        throw std::runtime_error("the action failed in its process");
+    }
+    return answer.read().substr(1);
+}
+
+}  // namespace gullymark::testing_support
