@@ -37,7 +37,9 @@ function(gullymark_test name)
   target_include_directories(test_${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_link_libraries(test_${name} PRIVATE gullymark_options ${TEST_LINKS} GTest::gtest GTest::gmock GTest::gtest_main)
   target_compile_definitions(test_${name} PRIVATE
-    GULLYMARK_TEST_DIR="${CMAKE_SOURCE_DIR}/tests" GULLYMARK_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+    GULLYMARK_TEST_DIR="${CMAKE_SOURCE_DIR}/tests" GULLYMARK_SOURCE_DIR="${CMAKE_SOURCE_DIR}"
+    GULLYMARK_TEMPLATE="${CMAKE_BINARY_DIR}/bin/GullymarkAL10.rdb")
+  add_dependencies(test_${name} gullymark_template)
   if(TEST_WHOLE)
     add_test(NAME ${name} COMMAND test_${name})
   else()

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "platform/database.h"
+
+/// The open project file and the statements that reach it. Each statement is sent as it stands: a number between its
+/// quote marks is joined in unchanged, so one that holds a quote mark breaks the statement, and its sender tells the
+/// failure.
+namespace gullymark::store {
+
+/// The one connection of the run, made anew at every open of a project.
+struct ProjectStore {
+    platform::Connection connection;
+};
+
+extern ProjectStore project_store;
+
+inline constexpr const char* select_project = "SELECT * from PROJECT Order by PROJECT_ID";
+inline constexpr const char* select_inlets = "SELECT * FROM INLET ORDER BY INLET_NUMBER";
+inline constexpr const char* select_carryover =
+    "select INLET_NUMBER, PREINLET1, PREINLET2, QCARRY from INLET Order by INLET_NUMBER";
+inline constexpr const char* select_grid =
+    "SELECT INLET_NUMBER AS [INLET_ID],STATION, OFFSET  FROM INLET ORDER BY INLET_NUMBER";
+
+/// All columns of the inlet of that number.
+[[nodiscard]] std::string select_inlet(std::string_view number);
+
+/// The row that has `number` as its INLET_NUMBER, the rows that have it as their PREINLET1, or as their PREINLET2.
+[[nodiscard]] std::string select_number_usage(std::string_view number);
+[[nodiscard]] std::string select_preinlet1_usage(std::string_view number);
+[[nodiscard]] std::string select_preinlet2_usage(std::string_view number);
+
+/// Gives an inlet a new number, first in its own row, then in the rows that name it as a previous inlet.
+[[nodiscard]] std::array<std::string, 3> renumber_inlet(std::string_view new_number,
+                                                        std::string_view old_number);
+
+/// True when a row has `inlet_number` in the column named by `word`: "INLET_NUMBER", "PREINLET1" or "PREINLET2". Any
+/// other word finds nothing. The two previous-inlet words also set `session.ReferencingInletNumber` to the
+/// INLET_NUMBER of the first row found, "" when there is none.
+/// On failure: a plain box with its description, and false.
+bool CheckInletUsage(std::string_view inlet_number, std::string_view word);
+
+}  // namespace gullymark::store
