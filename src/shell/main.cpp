@@ -1,0 +1,23 @@
+#include <clocale>
+
+#include <QApplication>
+
+#include "platform/files.h"
+#include "shell/start.h"
+#include "shell/turn.h"
+#include "store/start.h"
+
+namespace shell = gullymark::shell;
+
+int main(int argc, char** argv) {
+    // There is no command line: not even the toolkit's own options.
+    argc = argc == 0 ? 0 : 1;
+    const QApplication application(argc, argv);
+    std::setlocale(LC_NUMERIC, "C");  // NOLINT(concurrency-mt-unsafe): the one thread there is
+    QApplication::setApplicationName("GullymarkAL");
+    QApplication::setApplicationDisplayName({});
+    gullymark::platform::set_program_folder(QApplication::applicationDirPath().toStdString());
+    shell::build_windows();
+    shell::handle(gullymark::store::tarnelbrookmain);
+    return QApplication::exec();
+}
