@@ -1,0 +1,11 @@
+-- Two curb inlets on a grade; what passes the first reaches the second. Columns of every schema.
+INSERT INTO INLET (INLET_NUMBER, PROJECT_ID, ROADWAY, STATION, OFFSET, INLET_TYPE, INLET_LOCATION, ALLOWABLE_SPREAD,
+    DISCHARGE1, CARRYOVER1, PREINLET1, OVERLAND_FLOW, TOTAL_DISCHARGE, LONGSLOPE, PAVXSLOPE, INLETLENGTH, GRATEPERCLOG,
+    MANNINGS, GUTWIDTH, GUTXSLOPE, INTLEN, EFFICIENCY, QINT, QCARRY)
+VALUES
+    ('CB-2', 'P-7', 'MILL ROAD', '12+50', '14.000', 'Curb Inlet', 'CONTINUOUS GRADE', '10.0',
+     '1.000', '0.683', 'CB-1', '0.000', '1.683', '0.0100', '0.0200', '9.840', '0',
+     '0.016', '0.000', '0.0200', NULL, NULL, NULL, NULL),
+    ('CB-1', 'P-7', 'MILL ROAD', '10+00', '14.000', 'Curb Inlet', 'CONTINUOUS GRADE', '10.0',
+     '1.770', '0.0', '', '0.000', '1.770', '0.0100', '0.0200', '9.840', '0',
+     '0.016', '0.000', '0.0200', '23.945', '0.614', '1.087', '0.683');
