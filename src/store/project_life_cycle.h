@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 
 /// A project file from its creation to its close: the commands of the main window's menu, and the steps they share.
@@ -32,6 +33,10 @@ void close_database();
 /// One of the statements names a column that no file has, so the store rejects it and the date in the file never
 /// changes: the upgrade runs again at every open, and every time leaves the same file.
 void upgrade_project(const std::string& major_release, const std::string& minor_release);
+
+/// The statements of the upgrade as they go to the store, in their order.
+[[nodiscard]] std::array<std::string, 4> upgrade_statements(const std::string& major_release,
+                                                            const std::string& minor_release);
 
 /// The part of `path` behind `folder`: its last (length of path - length of folder - 1) characters. A drive's root
 /// ends with the separator that the rule counts once more, so it takes the name's first character.
