@@ -1,4 +1,7 @@
+#include <utility>
+
 #include "project_level.h"
+#include "support/child_process.h"
 
 namespace gullymark::store {
 namespace {
@@ -27,7 +30,23 @@ class BadFile : public ProjectLevel {
         expect_the_next_project_opens();
     }
 
-    [[nodiscard]] std::string description() const { return user.boxes.at(0).text; }
+    [[nodiscard]] std::string told_first() const { return user.boxes.at(0).text; }
+
+    void allow(const std::string& name, unsigned mode) const {
+        std::filesystem::permissions(folder.path(name), static_cast<std::filesystem::perms>(mode));
+    }
+
+    /// What a user whom the permissions hold is told first when he opens "bad.gmk" and comes to the workspace.
+    void expect_for_an_unprivileged_user(const std::string& description) {
+        const auto told = testing_support::run_unprivileged([this] {
+            open_project("bad.gmk");
+            return steps.back() == "workspace" ? told_first() : "ended at " + steps.back();
+        });
+        if (told.empty()) {
+            GTEST_SKIP() << "no ordinary user on this machine";
+        }
+        EXPECT_EQ(told, description + folder.path("bad.gmk"));
+    }
 
   private:
     void expect_the_next_project_opens() {
@@ -42,34 +61,74 @@ class BadFile : public ProjectLevel {
     }
 };
 
-TEST_F(BadFile, NotADatabase) {
-    testing_support::write_file(folder.path("bad.gmk"), std::string(5000, 'x'));
-    expect_failures_and_the_workspace("bad.gmk");
-    EXPECT_TRUE(description().starts_with("file is not a database")) << description();
+TEST_F(BadFile, KeptOnes) {
+    const std::vector<std::pair<std::string, std::string>> files = {
+        {"text.gmk", "file is not a database - "},
+        {"truncated.gmk", "database disk image is malformed - "},
+        {"empty.gmk", "this is not a Gullymark project file - "},
+        {"other_program.gmk", "this is not a Gullymark project file - "},
+    };
+    for (const auto& [name, description] : files) {
+        copy_kept_file(name);
+        const std::string content = testing_support::read_file(folder.path(name));
+        expect_failures_and_the_workspace(name);
+        EXPECT_EQ(told_first(), description + folder.path(name));
+        EXPECT_EQ(testing_support::read_file(folder.path(name)), content);
+        mnucloseProj_Click();
+        frmsoftwaremain.visible = true;
+        forget_steps();
+    }
 }
 
-TEST_F(BadFile, Empty) {
-    testing_support::write_file(folder.path("bad.gmk"), "");
+TEST_F(BadFile, LockedByAnotherProcess) {
+    make_project("bad.gmk");
+    const testing_support::Pipe locked;
+    const testing_support::Pipe enough;
+    const testing_support::ChildProcess other([&] {
+        platform::Connection connection;
+        connection.open(folder.path("bad.gmk"));
+        connection.execute("BEGIN EXCLUSIVE");
+        locked.write("locked");
+        (void)enough.read();
+    });
+    ASSERT_EQ(locked.read(), "locked");
     expect_failures_and_the_workspace("bad.gmk");
-    EXPECT_TRUE(description().starts_with("this is not a Gullymark project file")) << description();
-    EXPECT_EQ(testing_support::read_file(folder.path("bad.gmk")), "");
+    EXPECT_EQ(told_first(), "database is locked - " + folder.path("bad.gmk"));
+    enough.write("enough");
 }
 
-TEST_F(BadFile, Truncated) {
-    const std::string whole = testing_support::read_file(make_project("bad.gmk"));
-    testing_support::write_file(folder.path("bad.gmk"), whole.substr(0, 600));
-    expect_failures_and_the_workspace("bad.gmk");
+TEST_F(BadFile, ReadOnly) {
+    make_project("bad.gmk");
+    allow("bad.gmk", 0444);
+    allow("", 0777);
+    expect_for_an_unprivileged_user("attempt to write a readonly database: the file is read-only - ");
+}
+
+TEST_F(BadFile, InAFolderWithoutWritePermission) {
+    make_project("bad.gmk");
+    allow("bad.gmk", 0666);
+    allow("", 0555);
+    expect_for_an_unprivileged_user(
+        "attempt to write a readonly database: no file can be made in its folder - ");
+}
+
+TEST_F(BadFile, Garbled) {
+    copy_kept_file("garbled.gmk");
+    open_project("garbled.gmk");
+    // Only its inlets are beyond reading.
+    EXPECT_EQ(user.boxes, (Boxes{{BoxKind::information, "Project Name: Mill Road", "Tarnel Brook"}}));
+    EXPECT_EQ(steps.back(), "workspace");
 }
 
 TEST_F(BadFile, AFolder) {
     std::filesystem::create_directory(folder.path("bad.gmk"));
     expect_failures_and_the_workspace("bad.gmk");
-    EXPECT_TRUE(description().starts_with("unable to open database file")) << description();
+    EXPECT_TRUE(told_first().starts_with("unable to open database file")) << told_first();
 }
 
 TEST_F(BadFile, GoneMeanwhile) {
     expect_failures_and_the_workspace("bad.gmk");
-    EXPECT_TRUE(description().starts_with("unable to open database file")) << description();
+    EXPECT_TRUE(told_first().starts_with("unable to open database file")) << told_first();
     EXPECT_FALSE(platform::file_exists(folder.path("bad.gmk")));
 }
 

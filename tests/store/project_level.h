@@ -108,6 +108,11 @@ class ProjectLevel : public testing::Test {
         return folder.path(name);
     }
 
+    /// A copy of one of the files under tests/files.
+    void copy_kept_file(const std::string& name) const {
+        platform::copy_file(std::string(GULLYMARK_TEST_DIR) + "/files/" + name, folder.path(name));
+    }
+
     /// Changes a file past the program.
     void run(const std::string& name, const std::string& statements) {
         testing_support::run_sql(folder.path(name), statements);

@@ -134,6 +134,19 @@ TEST_F(UpgradeProject, AColumnThatExistsStopsItsStatementAndNoOther) {
     EXPECT_EQ(stored("a.gmk")["MINOR_RELEASE"], "00");
 }
 
+TEST_F(UpgradeProject, OfTheKeptOldFilesTheMisspelledOneIsUpgraded) {
+    for (const auto& [name, added] : {std::pair{"august_2007.gmk", 0U}, {"augustl_2007.gmk", 15U}}) {
+        copy_kept_file(name);
+        ASSERT_EQ(added_columns(name), 0U);
+        const std::string inlets = "SELECT INLET_NUMBER, DISCHARGE1, QCARRY FROM INLET";
+        const std::string before = testing_support::run_sql(folder.path(name), inlets);
+        open_and_close(name);
+        open_and_close(name);
+        EXPECT_EQ(added_columns(name), added) << name;
+        EXPECT_EQ(testing_support::run_sql(folder.path(name), inlets), before);
+    }
+}
+
 TEST_F(UpgradeProject, WithoutAnOpenFileNothingIsTold) {
     session.releaseDate = "AUGUSTL 2007";
     session.majorRelease = "1.0";
