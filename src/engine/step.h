@@ -9,12 +9,12 @@
 #include "engine/real.h"
 #include "engine/units.h"
 
-/// The one rule of the solvers: a step gives its target the value of its formula; if the formula cannot be evaluated
-/// (an arithmetic fault, an unreadable number) the target keeps the value it had, and the next step runs; a fault in
-/// a condition enters the branch.
+/// The one rule of the solvers: a step gives its target the value of its formula; if the formula cannot be
+/// evaluated (an arithmetic fault, an unreadable number) the target keeps the value it had, and the next step
+/// runs; a fault in a condition enters the branch.
 ///
-/// Steps are numbered through a solver's sheet, one number for one statement, so that a test can trip each and a trace
-/// can name it.
+/// Steps are numbered through a solver's sheet, one number for one statement, so that a test can trip each
+/// and a trace can name it.
 namespace gullymark::engine {
 
 /// A named number of a calculation sheet. It starts at 0.
@@ -68,55 +68,76 @@ inline void trip(int number) {
         throw Fault::tripped;
     }
 }
+inline void write(Quantity& target, Real number) {
+    target.value = number;
+}
 void write(Column target, Real number);
 void write(Column target, std::string_view text);
+
+/// Runs one step and notes it; the fault that abandoned it, or none.
+template <typename Target, typename Formula>
+Fault run(int number, Target&& target, Formula&& formula) {
+    Fault caught = Fault::none;
+    try {
+        trip(number);
+        write(target, std::forward<Formula>(formula)());
+    } catch (Fault fault) {
+        caught = fault;
+    }
+    if (onlooker.trace != nullptr) {
+        note(number, target, caught);
+    }
+    return caught;
+}
+
+/// Asks a condition and notes it; `entered` keeps its value when that faults. The fault, or none.
+template <typename Condition>
+Fault ask(int number, bool& entered, Condition&& condition) {
+    Fault caught = Fault::none;
+    try {
+        trip(number);
+        entered = std::forward<Condition>(condition)();
+    } catch (Fault fault) {
+        caught = fault;
+    }
+    if (onlooker.trace != nullptr) {
+        note(number, entered, caught);
+    }
+    return caught;
+}
 }  // namespace detail
 
-/// A step that may fault to its caller, for a solver that ends at the first fault: `target` is a Quantity or a Column,
-/// `formula` gives a Real (a column takes its text of up to 15 digits) or, for a column, a text.
-template <typename Formula>
-void strict_step(int number, Quantity& target, Formula&& formula) {
-    detail::trip(number);
-    target.value = std::forward<Formula>(formula)();
-    if (onlooker.trace != nullptr) {
-        detail::note(number, target, Fault::none);
-    }
-}
-
-template <typename Formula>
-void strict_step(int number, Column target, Formula&& formula) {
-    detail::trip(number);
-    detail::write(target, std::forward<Formula>(formula)());
-    if (onlooker.trace != nullptr) {
-        detail::note(number, target, Fault::none);
-    }
-}
-
-/// A step under the rule above.
+/// A step under the rule above. `target` is a Quantity or a Column, `formula` gives a Real (a column takes
+/// its text of up to 15 digits) or, for a column, a text.
 template <typename Target, typename Formula>
 void step(int number, Target&& target, Formula&& formula) {
-    try {
-        strict_step(number, target, std::forward<Formula>(formula));
-    } catch (Fault fault) {
-        if (onlooker.trace != nullptr) {
-            detail::note(number, target, fault);
-        }
-    }
+    detail::run(number, target, std::forward<Formula>(formula));
 }
 
 /// A condition under the rule above: a fault enters the branch.
 template <typename Condition>
 bool holds(int number, Condition&& condition) {
     bool entered = true;
-    Fault caught = Fault::none;
-    try {
-        detail::trip(number);
-        entered = std::forward<Condition>(condition)();
-    } catch (Fault fault) {
-        caught = fault;
+    detail::ask(number, entered, std::forward<Condition>(condition));
+    return entered;
+}
+
+/// A step whose fault goes on to its caller, for a solver that ends at the first one.
+template <typename Target, typename Formula>
+void strict_step(int number, Target&& target, Formula&& formula) {
+    if (const Fault fault = detail::run(number, target, std::forward<Formula>(formula));
+        fault != Fault::none) {
+        throw fault;
     }
-    if (onlooker.trace != nullptr) {
-        detail::note(number, entered, caught);
+}
+
+/// A condition whose fault goes on to its caller.
+template <typename Condition>
+bool strict_holds(int number, Condition&& condition) {
+    bool entered = false;
+    if (const Fault fault = detail::ask(number, entered, std::forward<Condition>(condition));
+        fault != Fault::none) {
+        throw fault;
     }
     return entered;
 }
