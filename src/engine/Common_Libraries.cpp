@@ -1,5 +1,6 @@
 #include "engine/Common_Libraries.h"
 
+#include "engine/sump_march.h"
 #include "platform/outside.h"
 
 namespace gullymark::engine {
@@ -86,43 +87,6 @@ Real ditch_discharge(Real M, Real S, Real n, Real b, Real z1, Real z2, Real y) {
     return M / n * A * power(S, 0.5) * power(A / P, 0.6667);
 }
 
-Real sump_head_on_throat(const SumpFlow& flow, Real d) {
-    switch (flow.throat) {
-        case Throat::horizontal:
-            return d - flow.h / 2.0;
-        case Throat::inclined:
-            return d - flow.h / 2.0 * sine(flow.angle);
-        case Throat::vertical:
-            return d;
-        case Throat::none:
-            break;
-    }
-    return 0.0;
-}
-
-Real sump_discharge(const SumpFlow& flow, Real d) {
-    const Real head = sump_head_on_throat(flow, d);
-    const Real through_grate = flow.A * power(2.0 * flow.g * d, 0.5);
-    if (head > 0.0) {
-        return 0.67 * (through_grate + flow.B * flow.C * (2.0 * flow.g) * power(head, 0.5));
-    }
-    return 0.67 * flow.A * power(2.0 * flow.g * d, 0.5);
-}
-
-Real march_up(const SumpFlow& flow) {
-    constexpr double sump_tolerance = 0.001;
-    constexpr double rise = 0.001;
-    Real d = 0.001;
-    do {
-        const Real next = d + rise;
-        if (next == d) {
-            throw Fault::endless_search;
-        }
-        d = next;
-    } while (flow.Q - sump_discharge(flow, d) > sump_tolerance);
-    return d;
-}
-
 }  // namespace
 
 Real side_flow_share(Real T, Real W, Real Sw, Real Sx) {
@@ -166,7 +130,7 @@ Real compute_ditch_depth(Real M, Real Q, Real S, Real n, Real b, Real z1, Real z
 Real compute_sump_depth(const SumpFlow& flow) {
     try {
         if (flow.Q > 0.0) {
-            return march_up(flow);
+            return march_to_sump_depth(flow);
         }
     } catch (Fault) {  // NOLINT(bugprone-empty-catch): told below like a discharge of 0
     }
