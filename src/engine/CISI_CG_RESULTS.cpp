@@ -1,11 +1,10 @@
 #include "engine/CISI_CG_RESULTS.h"
 
-#include "engine/Common_Libraries.h"
+#include "engine/approach_spread.h"
 #include "engine/inlet_repairs.h"
 #include "engine/solve.h"
 #include "engine/step.h"
 #include "engine/unit_constants.h"
-#include "platform/number_text.h"
 
 namespace gullymark::engine::CISI_CG_RESULTS {
 namespace {
@@ -61,17 +60,7 @@ void read_inputs() {
 
 void find_spread() {
     auto& s = sheet;
-    step(17, s.T, [&s] {
-        return compute_gutter_spread({.K = unit_constants.gutterFlowConstant,
-                                      .Q = s.Q,
-                                      .S = s.S,
-                                      .n = s.n,
-                                      .W = s.W,
-                                      .Sx = s.Sx,
-                                      .Sw = s.Sw,
-                                      .Wa = s.Wa,
-                                      .spread_limit = s.limit});
-    });
+    step(17, s.T, [&s] { return approach_spread(s, s.Q); });
     step(18, OPENSPREAD, [&s] { return s.T; });
 }
 
@@ -118,7 +107,7 @@ void find_depression_slope() {
     } else if (!holds(39, [&s] { return s.Wa <= 0.0 || s.a <= 0.0; })) {
         if (holds(40, [&s] { return s.W > 0.0 && s.Sw > s.Sx; })) {
             const auto width = [&s] { return s.Wa < s.W ? s.W : s.Wa; };
-            step(41, s.SdashD, [&] { return (s.a + (s.Sw - s.Sx) * s.W) / width(); });
+            step(41, s.SdashD, [&s, &width] { return (s.a + (s.Sw - s.Sx) * s.W) / width(); });
         } else if (holds(42, [&s] { return s.W == 0.0 || s.Sw == s.Sx; })) {
             step(43, s.SdashD, [&s] { return s.a / s.Wa; });
         }
@@ -140,13 +129,12 @@ void find_interception_length() {
 
 void find_depth_and_velocity() {
     auto& s = sheet;
-    const Real depth_factor = unit_constants.depthFactor;
     step(50, s.ag, [&s] { return (s.Sw - s.Sx) * s.W; });
     if (holds(51, [&s] { return s.T > s.W; })) {
-        step(52, s.Dc, [&] { return (s.T * s.Sx + s.ag) * depth_factor; });
+        step(52, s.Dc, [&s] { return (s.T * s.Sx + s.ag) * unit_constants.depthFactor; });
         step(53, s.A, [&s] { return 0.5 * square(s.T) * s.Sx + 0.5 * s.ag * s.W; });
     } else {
-        step(54, s.Dc, [&] { return s.T * s.Sw * depth_factor; });
+        step(54, s.Dc, [&s] { return s.T * s.Sw * unit_constants.depthFactor; });
         step(55, s.A, [&s] { return 0.5 * square(s.T) * s.Sw; });
     }
     step(56, CURBDEPTH, [&s] { return s.Dc; });

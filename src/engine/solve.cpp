@@ -4,6 +4,8 @@
 #include <string>
 
 #include "engine/CISI_CG_RESULTS.h"
+#include "engine/CI_SU_RESULTS.h"
+#include "engine/SI_SU_RESULTS.h"
 #include "engine/step.h"
 #include "engine/unit_constants.h"
 #include "platform/number_text.h"
@@ -31,10 +33,13 @@ struct Solver {
 };
 
 constexpr std::string_view on_grade = "CONTINUOUS GRADE";
+constexpr std::string_view in_sump = "SUMP";
 
 constexpr auto solvers = std::to_array<Solver>({
     {on_grade, "Curb Inlet", CISI_CG_RESULTS::compute_results},
     {on_grade, "Slotted Inlet", CISI_CG_RESULTS::compute_results},
+    {in_sump, "Curb Inlet", CI_SU_RESULTS::compute_results},
+    {in_sump, "Slotted Inlet", SI_SU_RESULTS::compute_results},
 });
 
 }  // namespace
@@ -50,7 +55,7 @@ bool cmdsolve_Click() {
         }
         solve_inlet();
     } catch (Fault) {
-        platform::tell("No results computed.  Invalid input.", platform::BoxKind::warning);
+        platform::tell(invalid_input, platform::BoxKind::warning);
         return false;
     }
     DataSolved = true;

@@ -5,6 +5,9 @@
 /// From the command SOLVE to the result columns of the open inlet.
 namespace gullymark::engine {
 
+/// What a box says when inputs keep a solver from its results.
+inline constexpr const char* invalid_input = "No results computed.  Invalid input.";
+
 /// True while the open inlet may be saved: a solve ran after its last change.
 extern bool DataSolved;
 
