@@ -5,6 +5,8 @@
 
 #include "engine/CISI_CG_RESULTS.h"
 #include "engine/CI_SU_RESULTS.h"
+#include "engine/COMBO_CG_RESULTS.h"
+#include "engine/GI_CG_RESULTS.h"
 #include "engine/SI_SU_RESULTS.h"
 #include "engine/step.h"
 #include "engine/unit_constants.h"
@@ -37,6 +39,8 @@ constexpr std::string_view in_sump = "SUMP";
 
 constexpr auto solvers = std::to_array<Solver>({
     {on_grade, "Curb Inlet", CISI_CG_RESULTS::compute_results},
+    {on_grade, "Grate Inlet", GI_CG_RESULTS::compute_results},
+    {on_grade, "Combination Curb and Grate Inlet", COMBO_CG_RESULTS::compute_results},
     {on_grade, "Slotted Inlet", CISI_CG_RESULTS::compute_results},
     {in_sump, "Curb Inlet", CI_SU_RESULTS::compute_results},
     {in_sump, "Slotted Inlet", SI_SU_RESULTS::compute_results},

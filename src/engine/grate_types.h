@@ -1,0 +1,50 @@
+#pragma once
+
+#include <string_view>
+
+#include "engine/step.h"
+
+/// The grates that the system knows, and how much of the flow that meets a grate from the front it takes.
+namespace gullymark::engine {
+
+/// One kind of grate: above the velocity Vo water begins to splash over. Vo is fitted as a line for the
+/// longer grates and as a parabola for the shorter ones, of the length in feet:
+///
+///   Vo = b1 Lf + b0,  Vo = c2 Lf^2 + c1 Lf + c0
+struct GrateType {
+    std::string_view name;
+    std::string_view other_name;  // empty when there is none
+    double Vmax = 0.0;            // a longer grate takes nothing at this velocity or above
+    double b1 = 0.0;
+    double b0 = 0.0;
+    double c2 = 0.0;
+    double c1 = 0.0;
+    double c0 = 0.0;
+};
+
+/// The grate of that text in GRATETYPE, compared whole and exactly; null for a text that names none.
+const GrateType* grate_type(std::string_view text);
+
+/// The part of a sheet that finds the frontal efficiency Rf. Its steps are 101 to 113 in every sheet.
+struct FrontalFlow {
+    Quantity Lf{"Lf", Unit::other, "length of the grate in ft"};
+    Quantity Vo{"Vo", Unit::other, "velocity of splash-over"};
+    Quantity Rf{"Rf", Unit::ratio, "efficiency for frontal flow"};
+};
+
+/// Converts a metric INLETLENGTH into Lf. An ENGLISH length is already in feet and stays a text.
+void convert_grate_length(int number, FrontalFlow& frontal);
+
+/// The length of the grate in feet: in ENGLISH units the number in INLETLENGTH, so that a text that is none
+/// faults wherever the length is used; else Lf, which such a text has left at 0.
+Real grate_length_in_feet(const FrontalFlow& frontal);
+
+/// The efficiency Rf for frontal flow of the grate in GRATETYPE at a velocity:
+///
+///   Rf = 1 for Lf >= 10, 0 for 4.5 < Lf < 10 and V >= Vmax, else 1 - 0.09 (V - Vo), held within 0 and 1
+///
+/// An unknown grate, a length of 0 or below and one of exactly 4.5 ft give 0. A metric velocity goes in as it
+/// is: the fits stand for both unit systems. Both the hole at 4.5 and the unconverted velocity are meant.
+void find_frontal_efficiency(FrontalFlow& frontal, Real V);
+
+}  // namespace gullymark::engine
