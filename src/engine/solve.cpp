@@ -6,7 +6,9 @@
 #include "engine/CISI_CG_RESULTS.h"
 #include "engine/CI_SU_RESULTS.h"
 #include "engine/COMBO_CG_RESULTS.h"
+#include "engine/COMBO_SU_RESULTS.h"
 #include "engine/GI_CG_RESULTS.h"
+#include "engine/GI_SU_RESULTS.h"
 #include "engine/SI_SU_RESULTS.h"
 #include "engine/step.h"
 #include "engine/unit_constants.h"
@@ -43,6 +45,8 @@ constexpr auto solvers = std::to_array<Solver>({
     {on_grade, "Combination Curb and Grate Inlet", COMBO_CG_RESULTS::compute_results},
     {on_grade, "Slotted Inlet", CISI_CG_RESULTS::compute_results},
     {in_sump, "Curb Inlet", CI_SU_RESULTS::compute_results},
+    {in_sump, "Grate Inlet", GI_SU_RESULTS::compute_results},
+    {in_sump, "Combination Curb and Grate Inlet", COMBO_SU_RESULTS::compute_results},
     {in_sump, "Slotted Inlet", SI_SU_RESULTS::compute_results},
 });
 
