@@ -10,6 +10,8 @@
 #include "engine/GI_CG_RESULTS.h"
 #include "engine/GI_SU_RESULTS.h"
 #include "engine/SI_SU_RESULTS.h"
+#include "engine/TRAP_CG_RESULTS.h"
+#include "engine/TRAP_SU_RESULTS.h"
 #include "engine/step.h"
 #include "engine/unit_constants.h"
 #include "platform/number_text.h"
@@ -44,10 +46,12 @@ constexpr auto solvers = std::to_array<Solver>({
     {on_grade, "Grate Inlet", GI_CG_RESULTS::compute_results},
     {on_grade, "Combination Curb and Grate Inlet", COMBO_CG_RESULTS::compute_results},
     {on_grade, "Slotted Inlet", CISI_CG_RESULTS::compute_results},
+    {on_grade, "Grate Inlet in a Ditch", TRAP_CG_RESULTS::compute_results},
     {in_sump, "Curb Inlet", CI_SU_RESULTS::compute_results},
     {in_sump, "Grate Inlet", GI_SU_RESULTS::compute_results},
     {in_sump, "Combination Curb and Grate Inlet", COMBO_SU_RESULTS::compute_results},
     {in_sump, "Slotted Inlet", SI_SU_RESULTS::compute_results},
+    {in_sump, "Grate Inlet in a Ditch", TRAP_SU_RESULTS::compute_results},
 });
 
 }  // namespace
