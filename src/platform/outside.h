@@ -44,6 +44,9 @@ struct Outside {
     std::function<void(const std::string& path)> open_help;
     /// Shows the wait pointer (true) or the normal one (false).
     std::function<void(bool waiting)> show_wait_pointer;
+    /// Lets the windows paint themselves and serve the clipboard while something outside is waited for; called many
+    /// times a second. It takes no input.
+    std::function<void()> keep_painting;
     std::function<void()> beep;
     /// Seconds since midnight, local time, with its fraction.
     std::function<double()> time_of_day;

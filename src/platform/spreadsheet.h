@@ -22,7 +22,8 @@ struct Spreadsheet {
 
     /// Puts `cells` into the workbook that `open` opened last, shows it and leaves it to the user, unsaved: a text as
     /// that text, whatever it looks like, a date with the application's own date format where the cell has no date
-    /// format, nothing as a cleared cell. All else of a cell, its format too, stays.
+    /// format, nothing as a cleared cell. All else of a cell, its format too, stays; but a text that looks like a
+    /// number or a formula may take on the format of a text, so that it stays one when the user edits it.
     std::function<void(const std::string& path, SheetChoice sheet, const Cells& cells)> hand_over;
 };
 

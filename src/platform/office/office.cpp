@@ -1,0 +1,191 @@
+#include "platform/office/office.h"
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <com/sun/star/bridge/UnoUrlResolver.hpp>
+#include <com/sun/star/connection/NoConnectException.hpp>
+#include <com/sun/star/frame/Desktop.hpp>
+#include <com/sun/star/frame/XFrames.hpp>
+#include <cppuhelper/bootstrap.hxx>
+#include <csignal>
+#include <cstdlib>
+#include <functional>
+#include <thread>
+#include <vector>
+
+#include "platform/failure.h"
+#include "platform/office/texts.h"
+
+namespace gullymark::office {
+namespace {
+
+namespace uno = com::sun::star::uno;
+namespace frame = com::sun::star::frame;
+using namespace std::chrono_literals;
+
+constexpr const char* program_folder = GULLYMARK_OFFICE_PROGRAM_FOLDER;
+constexpr auto pause_between_tries = 20ms;
+constexpr auto patience_at_end = 5s;
+
+std::string pipe_name(const OfficeChoice& choice) {
+    return choice.profile.empty()
+               ? "gullymark_office"
+               : "gullymark_office_" + std::to_string(std::hash<std::string>{}(choice.profile));
+}
+
+// Anyone can make a pipe of that name in the shared folder of pipes; only this user's own is talked to.
+void check_owner_of_pipe(const OfficeChoice& choice) {
+    const std::string name = "/OSL_PIPE_" + std::to_string(getuid()) + "_" + pipe_name(choice);
+    for (const char* folder : {"/tmp", "/var/tmp"}) {
+        struct stat found = {};
+        if (lstat((folder + name).c_str(), &found) == 0 && found.st_uid != getuid()) {
+            throw platform::Failure("The connection to the spreadsheet program belongs to another user.");
+        }
+    }
+}
+
+std::vector<std::string> start_arguments(const OfficeChoice& choice) {
+    std::vector<std::string> arguments = {std::string(program_folder) + "/soffice",
+                                          "--accept=pipe,name=" + pipe_name(choice) + ";urp;",
+                                          "--nologo",
+                                          "--norestore",
+                                          "--nodefault",
+                                          "--nolockcheck"};
+    if (!choice.profile.empty()) {
+        arguments.push_back("-env:UserInstallation=" + utf8_of(file_url(choice.profile)));
+    }
+    if (choice.headless) {
+        arguments.emplace_back("--headless");
+    }
+    return arguments;
+}
+
+// In a session and process group of its own, with no tie to our streams: it lives on when we have ended.
+pid_t start_office(const OfficeChoice& choice) {
+    std::vector<std::string> arguments = start_arguments(choice);
+    std::vector<char*> pointers;
+    for (std::string& argument : arguments) {
+        pointers.push_back(argument.data());
+    }
+    pointers.push_back(nullptr);
+
+    posix_spawn_file_actions_t files;
+    posix_spawn_file_actions_init(&files);
+    posix_spawn_file_actions_addopen(&files, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_addopen(&files, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_addopen(&files, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID);
+    pid_t started = 0;
+    const int error = posix_spawn(&started, pointers.front(), &files, &attributes, pointers.data(), environ);
+    posix_spawnattr_destroy(&attributes);
+    posix_spawn_file_actions_destroy(&files);
+    if (error != 0) {
+        throw platform::Failure("The spreadsheet program cannot be started.");
+    }
+    return started;
+}
+
+enum class Started { runs, handed_over, failed };
+
+// An office that finds another one of this user hands its request over to it and ends well.
+Started state_of(pid_t started) {
+    int status = 0;
+    const pid_t ended = waitpid(started, &status, WNOHANG);
+    if (ended == 0) {
+        return Started::runs;
+    }
+    return ended == started && WIFEXITED(status) && WEXITSTATUS(status) == 0 ? Started::handed_over
+                                                                             : Started::failed;
+}
+
+bool waited_for_end(pid_t started) {
+    const auto until = std::chrono::steady_clock::now() + patience_at_end;
+    while (std::chrono::steady_clock::now() < until) {
+        if (state_of(started) != Started::runs) {
+            return true;
+        }
+        std::this_thread::sleep_for(pause_between_tries);
+    }
+    return false;
+}
+
+bool shows_nothing(const Office& office) {
+    return office.desktop.is() && office.desktop->getFrames()->getCount() == 0;
+}
+
+}  // namespace
+
+void set_up_libraries() {
+    // Without it the first call of the office's libraries ends the process.
+    const std::string settings = std::string("vnd.sun.star.pathname:") + program_folder + "/fundamentalrc";
+    setenv("URE_BOOTSTRAP", settings.c_str(), 1);  // NOLINT(concurrency-mt-unsafe): no thread runs yet
+}
+
+void connect_office(Office& office) {
+    const auto local = cppu::defaultBootstrap_InitialComponentContext();
+    unsetenv("URE_BOOTSTRAP");  // NOLINT(concurrency-mt-unsafe): the office shall not inherit it
+    const auto resolver = com::sun::star::bridge::UnoUrlResolver::create(local);
+    const rtl::OUString address =
+        text_of("uno:pipe,name=" + pipe_name(office.choice) + ";urp;StarOffice.ComponentContext");
+    bool asked_to_start = false;
+    for (;;) {
+        check_owner_of_pipe(office.choice);
+        try {
+            office.context.set(resolver->resolve(address), uno::UNO_QUERY_THROW);
+            office.desktop = frame::Desktop::create(office.context);
+            return;
+        } catch (const com::sun::star::connection::NoConnectException&) {
+            if (!asked_to_start) {
+                office.started = start_office(office.choice);
+                asked_to_start = true;
+            }
+        }
+        const Started state = office.started == 0 ? Started::handed_over : state_of(office.started);
+        if (state != Started::runs) {
+            office.started = 0;
+        }
+        if (state == Started::failed) {
+            throw platform::Failure("The spreadsheet program ended while it started.");
+        }
+        std::this_thread::sleep_for(pause_between_tries);
+    }
+}
+
+void end_office(Office& office) {
+    if (office.started == 0) {
+        return;
+    }
+    try {
+        if (office.desktop.is() && !shows_nothing(office)) {
+            office.started = 0;
+            return;
+        }
+        if (office.desktop.is()) {
+            office.desktop->terminate();
+        }
+    } catch (const uno::Exception&) {
+        // It has gone, or goes just now.
+    }
+    if (!office.desktop.is() || !waited_for_end(office.started)) {
+        kill_office(office);
+    }
+    office.started = 0;
+}
+
+void kill_office(Office& office) {
+    const pid_t group = office.started.exchange(0);
+    if (group > 0) {
+        kill(-group, SIGKILL);
+        waitpid(group, nullptr, 0);
+    }
+}
+
+}  // namespace gullymark::office

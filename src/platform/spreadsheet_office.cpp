@@ -1,0 +1,195 @@
+#include "platform/spreadsheet_office.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <spawn.h>
+#include <sys/socket.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <utility>
+
+#include "platform/failure.h"
+#include "platform/files.h"
+#include "platform/number_text.h"
+#include "platform/office_lines.h"
+#include "platform/outside.h"
+#include "platform/spreadsheet.h"
+
+namespace gullymark::platform {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using Fields = std::vector<std::string>;
+
+constexpr std::chrono::seconds patience_beyond_limit{2};  // the small program keeps the limit itself
+constexpr int pause_between_paints = 20;                  // milliseconds
+
+// The talk with the small program: from `open` until the workbook was shown.
+struct Talk {
+    OfficeSettings settings;
+    int connection = -1;
+    std::string heard;  // what has come and has no end of line yet
+    std::string path;
+    std::vector<pid_t> helpers;  // started and not yet seen to have ended
+
+    ~Talk();
+};
+
+Talk talk;
+
+// The end of the connection tells the small program to leave nothing behind. It is not waited for.
+void hang_up() {
+    if (talk.connection >= 0) {
+        close(talk.connection);
+        talk.connection = -1;
+    }
+    talk.heard.clear();
+    std::erase_if(talk.helpers, [](pid_t helper) { return waitpid(helper, nullptr, WNOHANG) != 0; });
+}
+
+Talk::~Talk() {
+    hang_up();
+}
+
+// In a session of its own, so that an interrupt meant for us lets it tidy up.
+pid_t spawn(const std::string& program, int connection) {
+    std::string name = program;
+    std::array<char*, 2> arguments = {name.data(), nullptr};
+    posix_spawn_file_actions_t files;
+    posix_spawn_file_actions_init(&files);
+    posix_spawn_file_actions_adddup2(&files, connection, STDIN_FILENO);
+    posix_spawn_file_actions_adddup2(&files, connection, STDOUT_FILENO);
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID);
+    pid_t spawned = 0;
+    const int error = posix_spawn(&spawned, name.c_str(), &files, &attributes, arguments.data(), environ);
+    posix_spawnattr_destroy(&attributes);
+    posix_spawn_file_actions_destroy(&files);
+    return error == 0 ? spawned : -1;
+}
+
+void start_talk() {
+    hang_up();
+    if (!file_exists(talk.settings.program)) {
+        throw Failure("No spreadsheet program can be reached.");
+    }
+    std::array<int, 2> ends = {};
+    if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) {
+        throw Failure("No spreadsheet program can be reached.");
+    }
+    const pid_t helper = spawn(talk.settings.program, ends[1]);
+    close(ends[1]);
+    talk.connection = ends[0];
+    if (helper < 0) {
+        hang_up();
+        throw Failure("No spreadsheet program can be reached.");
+    }
+    talk.helpers.push_back(helper);
+    fcntl(talk.connection, F_SETFL, O_NONBLOCK);
+}
+
+[[noreturn]] void break_off(const std::string& description) {
+    hang_up();
+    throw Failure(description);
+}
+
+// Waits until the connection can be written to or read from.
+void wait_for(short event, Clock::time_point due) {
+    pollfd waited = {.fd = talk.connection, .events = event, .revents = 0};
+    while (poll(&waited, 1, pause_between_paints) <= 0) {
+        if (Clock::now() > due) {
+            break_off("The spreadsheet program does not answer.");
+        }
+        if (outside.keep_painting) {
+            outside.keep_painting();
+        }
+    }
+}
+
+void say(std::string_view lines, Clock::time_point due) {
+    while (!lines.empty()) {
+        const ssize_t sent = send(talk.connection, lines.data(), lines.size(), MSG_NOSIGNAL);
+        if (sent > 0) {
+            lines.remove_prefix(static_cast<std::size_t>(sent));
+        } else if (errno == EAGAIN || errno == EINTR) {
+            wait_for(POLLOUT, due);
+        } else {
+            break;  // it has gone; what it said before comes with the answer
+        }
+    }
+}
+
+Fields next_line(Clock::time_point due) {
+    std::size_t end = talk.heard.find('\n');
+    while (end == std::string::npos) {
+        wait_for(POLLIN, due);
+        std::array<char, 65536> piece = {};
+        const ssize_t count = recv(talk.connection, piece.data(), piece.size(), 0);
+        if (count > 0) {
+            talk.heard.append(piece.data(), static_cast<std::size_t>(count));
+        } else if (count == 0 || (errno != EAGAIN && errno != EINTR)) {
+            break_off("The spreadsheet program has ended.");
+        }
+        end = talk.heard.find('\n');
+    }
+    Fields fields = split_line(std::string_view(talk.heard).substr(0, end));
+    talk.heard.erase(0, end + 1);
+    return fields;
+}
+
+// Says the lines and gives what comes until the answer is there.
+SheetContent ask_for(const std::string& answer, const std::string& lines) {
+    const Clock::time_point due = Clock::now() + talk.settings.limit + patience_beyond_limit;
+    say(lines, due);
+    SheetContent content;
+    for (;;) {
+        const Fields fields = next_line(due);
+        if (fields.front() == answer) {
+            return content;
+        }
+        if (!read_content_line(fields, content)) {
+            break_off(fields.front() == "failed" && fields.size() > 1
+                          ? fields[1]
+                          : "The spreadsheet program is not understood.");
+        }
+    }
+}
+
+SheetContent open_in_office(const std::string& path, SheetChoice sheet) {
+    start_talk();
+    std::string lines;
+    for (const Fields& question : talk.settings.first_questions) {
+        lines += join_line(question);
+    }
+    const double seconds = std::chrono::duration<double>(talk.settings.limit).count();
+    lines += join_line({"limit", number_text(seconds)});
+    lines += join_line({"open", path, sheet == SheetChoice::first ? "first" : "active"});
+    talk.path = path;
+    return ask_for("opened", lines);
+}
+
+void hand_over_to_office(const std::string& path, SheetChoice /*the one opened*/, const Cells& cells) {
+    if (talk.connection < 0 || talk.path != path) {
+        throw Failure("The workbook is not open.");
+    }
+    ask_for("shown", cell_lines(cells) + join_line({"show"}));
+    for (const Fields& question : talk.settings.last_questions) {
+        ask_for("done", join_line(question));
+    }
+    hang_up();
+}
+
+}  // namespace
+
+void use_office(OfficeSettings settings) {
+    hang_up();
+    talk.settings = std::move(settings);
+    spreadsheet = {.open = open_in_office, .hand_over = hand_over_to_office};
+}
+
+}  // namespace gullymark::platform
