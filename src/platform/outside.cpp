@@ -1,5 +1,7 @@
 #include "platform/outside.h"
 
+#include <ctime>
+
 namespace gullymark::platform {
 
 Outside outside;
@@ -24,6 +26,18 @@ void beep() {
     if (outside.beep) {
         outside.beep();
     }
+}
+
+std::chrono::year_month_day today() {
+    if (outside.today) {
+        return outside.today();
+    }
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    return {std::chrono::year(local.tm_year + 1900),
+            std::chrono::month(static_cast<unsigned>(local.tm_mon) + 1),
+            std::chrono::day(static_cast<unsigned>(local.tm_mday))};
 }
 
 }  // namespace gullymark::platform

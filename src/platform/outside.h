@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <string>
@@ -50,6 +51,8 @@ struct Outside {
     std::function<void()> beep;
     /// Seconds since midnight, local time, with its fraction.
     std::function<double()> time_of_day;
+    /// The date today, local time; where nobody set it, the system's.
+    std::function<std::chrono::year_month_day()> today;
 };
 
 extern Outside outside;
@@ -64,5 +67,6 @@ bool ask(const std::string& text, BoxKind kind = BoxKind::warning_question,
 
 void show_wait_pointer(bool waiting);
 void beep();
+[[nodiscard]] std::chrono::year_month_day today();
 
 }  // namespace gullymark::platform

@@ -1,0 +1,45 @@
+#include "reports/report_file.h"
+
+#include "platform/file_dialog.h"
+#include "platform/files.h"
+#include "platform/outside.h"
+#include "reports/cell_steps.h"
+#include "store/project_session.h"
+
+namespace gullymark::reports {
+
+using platform::BoxKind;
+using platform::printDlg;
+
+std::optional<std::string> choose_target(const ReportFile& report) {
+    printDlg.file_name = "";
+    printDlg.filter = report.filter;
+    printDlg.initial_folder = store::dialog_start_folder();
+    printDlg.title = report.title;
+    attempt([] { printDlg.show_save(); });  // a cancel leaves the name empty, also where it is an error
+    std::string target = printDlg.file_name;
+    if (target.empty() || target == "*.xls") {
+        platform::tell("No File Name selected!", BoxKind::warning);
+        return std::nullopt;
+    }
+    if (platform::file_exists(target) && !platform::ask("File Already Exists!   Overwrite?")) {
+        return std::nullopt;
+    }
+    return target;
+}
+
+void fill_copy_of_template(const ReportFile& report, const std::string& target,
+                           const std::function<void(platform::Sheet&)>& fill) {
+    attempt([&] {
+        platform::copy_file(platform::join_path(platform::program_folder(), report.template_name), target);
+    });
+    platform::show_wait_pointer(true);
+    attempt([&] {
+        platform::Sheet sheet = platform::open_sheet(target, report.sheet);
+        fill(sheet);
+        platform::hand_over(target, report.sheet, sheet);
+    });
+    platform::show_wait_pointer(false);
+}
+
+}  // namespace gullymark::reports

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "platform/spreadsheet.h"
+
+/// The file of a report: how the user names it, and its way from the template to the user's spreadsheet.
+namespace gullymark::reports {
+
+struct ReportFile {
+    const char* template_name;  // in the program's folder
+    const char* filter;         // of the file dialog
+    const char* title;          // of the file dialog
+    platform::SheetChoice sheet;
+};
+
+/// Asks for the report's path. Nothing when the user gave none, which a warning tells, or keeps a file that exists.
+std::optional<std::string> choose_target(const ReportFile& report);
+
+/// Copies the template onto `target`, overwriting, opens it in the spreadsheet application, has `fill` write its
+/// cells, and shows it; under the wait pointer from the copy on. Where the application cannot open the file, or is
+/// not there, nothing is filled or shown.
+void fill_copy_of_template(const ReportFile& report, const std::string& target,
+                           const std::function<void(platform::Sheet&)>& fill);
+
+}  // namespace gullymark::reports
