@@ -26,12 +26,10 @@ void set_discharge_carryover(int side);
 
 void ShowDischargeFrames();
 
-void preinlet_GotFocus();
+void preinlet1_GotFocus();
+void preinlet2_GotFocus();
 void preinlet1_LostFocus();
 void preinlet2_LostFocus();
-
-/// The numbers of all inlets for the lists of the previous inlets.
-void fill_preinlet_entries();
 
 /// What a change to a continuous grade does to the right side; the two handlers differ in the runoff fields.
 void empty_right_side(bool with_runoff);

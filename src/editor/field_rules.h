@@ -6,6 +6,9 @@
 /// (see `enter`, `left`, `may_leave`, `filter_key` of inlet_form.h); here stand the fields with handlers of their own.
 namespace gullymark::editor {
 
+/// A message of `txtSx` that no path shows.
+inline constexpr std::string_view pavement_slope_message = "error in Pavement Cross slope Data!";
+
 /// Focus and selection to a field.
 void SelectFieldText(FieldId field);
 
@@ -17,7 +20,8 @@ bool CheckNumericField(FieldId field);
 
 // Entering.
 void Inlet_Number_GotFocus();
-void remember_kind(FieldId field);
+void inlet_type_GotFocus();
+void inlet_location_GotFocus();
 void inlet_subtype_GotFocus();
 
 // Picking.

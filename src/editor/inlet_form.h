@@ -34,7 +34,7 @@ extern InletForm frminletMDIC;
 
 // Events, in the order in which they come to a field.
 
-/// The focus came to a field.
+/// The focus came to a field. The lists of the previous inlets get their entries here.
 void enter(FieldId field);
 
 /// A key was struck in a field whose whole and selected text are given: the key that counts, 0 for none.
@@ -48,7 +48,7 @@ std::string filter_text(FieldId field, std::string_view incoming, std::string_vi
 /// The user changed a field's text to `text`. Characters beyond the field's limit are dropped.
 void edited(FieldId field, std::string_view text);
 
-/// The list of a field is about to drop down. The lists of the previous inlets get their entries here.
+/// The list of a field is about to drop down.
 void opened_list(FieldId field);
 
 /// The user picked an entry of a list.

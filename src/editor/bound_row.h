@@ -1,0 +1,18 @@
+#pragma once
+
+#include "engine/inlet_record.h"
+#include "platform/database.h"
+
+/// Between the current row of a row set over INLET and an inlet in memory.
+///
+/// A file of the old schema lacks some columns: they read as null, a form can fill and solve them, and a save stores
+/// the columns that the file has.
+namespace gullymark::editor {
+
+/// The record takes the current row; all nulls without one. Throws Failure.
+void load_row(const platform::RowSet& rows, engine::InletRecord& record);
+
+/// Writes the record into the current or the pending new row. Throws Failure.
+void save_row(platform::RowSet& rows, const engine::InletRecord& record);
+
+}  // namespace gullymark::editor

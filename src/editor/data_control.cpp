@@ -1,0 +1,35 @@
+#include "editor/data_control.h"
+
+#include "platform/failure.h"
+#include "store/project_session.h"
+
+namespace gullymark::editor {
+
+void DataControl::open(const std::string& statement) {
+    rows = platform::RowSet();
+    connection = platform::Connection();
+    connection.open(store::session.projectFilePath);
+    rows.open(connection, statement);
+}
+
+void DataControl::refresh() {
+    rows.requery();
+}
+
+int DataControl::record_count() const {
+    return rows.is_open() ? static_cast<int>(rows.record_count()) : 0;
+}
+
+std::string DataControl::cell(int row, std::size_t column) const {
+    if (row < 1 || row > record_count()) {
+        return "";
+    }
+    try {
+        const platform::Row values = rows.row_at(static_cast<std::size_t>(row - 1));
+        return column < values.size() ? values[column].value_or("") : "";
+    } catch (const platform::Failure&) {
+        return "";
+    }
+}
+
+}  // namespace gullymark::editor

@@ -1,0 +1,193 @@
+#include "editor/inlet_form.h"
+
+#include <array>
+
+#include "editor/defaults.h"
+#include "editor/discharge.h"
+#include "editor/field_rules.h"
+#include "editor/form_access.h"
+#include "editor/kinds.h"
+#include "editor/life_cycle.h"
+#include "engine/solve.h"
+#include "platform/characters.h"
+#include "platform/number_text.h"
+
+namespace gullymark::editor {
+namespace {
+
+using enum FieldId;
+
+/// What a field does beyond the families of the one list of fields.
+struct OwnHandlers {
+    FieldId field;
+    void (*got_focus)() = nullptr;
+    void (*drop_down)() = nullptr;
+    void (*click)() = nullptr;
+    bool (*validate)() = nullptr;  // true refuses
+    void (*lost_focus)() = nullptr;
+};
+
+constexpr auto own_handlers = std::to_array<OwnHandlers>({
+    {.field = Inlet_Number, .got_focus = Inlet_Number_GotFocus, .lost_focus = Inlet_Number_LostFocus},
+    {.field = inlet_type,
+     .got_focus = inlet_type_GotFocus,
+     .click = inlet_type_Click,
+     .lost_focus = inlet_type_LostFocus},
+    {.field = inlet_location,
+     .got_focus = inlet_location_GotFocus,
+     .click = inlet_location_Click,
+     .lost_focus = inlet_location_LostFocus},
+    {.field = inlet_subtype, .got_focus = inlet_subtype_GotFocus, .lost_focus = inlet_subtype_LostFocus},
+    {.field = offset, .validate = offset_Validate, .lost_focus = offset_LostFocus},
+    {.field = offset_location, .click = ApplyOffsetSign},
+    {.field = allowable_spread, .lost_focus = allowable_spread_LostFocus},
+    {.field = Left_override, .click = Left_override_Click},
+    {.field = Right_override, .click = Right_override_Click},
+    {.field = runoff_area, .lost_focus = ComputeLeftDischarge},
+    {.field = runoff_coeff, .lost_focus = ComputeLeftDischarge},
+    {.field = intensity, .lost_focus = ComputeLeftDischarge},
+    {.field = discharge1, .lost_focus = ComputeTotalDischarge},
+    {.field = preinlet1, .got_focus = preinlet1_GotFocus, .lost_focus = preinlet1_LostFocus},
+    {.field = runoff_area2, .lost_focus = ComputeRightDischarge},
+    {.field = runoff_coeff2, .lost_focus = ComputeRightDischarge},
+    {.field = intensity2, .lost_focus = ComputeRightDischarge},
+    {.field = discharge2, .lost_focus = ComputeTotalDischarge},
+    {.field = preinlet2, .got_focus = preinlet2_GotFocus, .lost_focus = preinlet2_LostFocus},
+    {.field = overland_flow, .lost_focus = ComputeTotalDischarge},
+    {.field = txtSx, .lost_focus = txtSx_LostFocus},
+    {.field = txtSdashW, .lost_focus = txtSdashW_LostFocus},
+    {.field = cboType, .click = cboType_Click},
+    {.field = cboClog, .drop_down = cboClog_DropDown, .click = cboClog_Click, .validate = cboClog_Validate},
+    {.field = cboCurb, .click = cboCurb_Click, .lost_focus = cboCurb_LostFocus},
+    {.field = cboThroat, .click = cboThroat_Click},
+});
+
+const OwnHandlers& handlers_of(FieldId id) {
+    static constexpr OwnHandlers none{.field = SSTab1};
+    for (const auto& handlers : own_handlers) {
+        if (handlers.field == id) {
+            return handlers;
+        }
+    }
+    return none;
+}
+
+void call(void (*handler)()) {
+    if (handler != nullptr) {
+        handler();
+    }
+}
+
+/// True refuses.
+bool list_refuses(FieldId list) {
+    std::string shown = text(list);
+    const bool refuses = platform::CheckListValue(shown, field(list).entries);
+    set_text(list, shown);
+    return refuses;
+}
+
+}  // namespace
+
+InletForm frminletMDIC;
+
+engine::Real number_in(FieldId id) {
+    const auto read = platform::read_number(text(id));
+    if (read.fault != platform::NumberFault::none) {
+        throw engine::Fault::unreadable_number;
+    }
+    return {read.number};
+}
+
+bool on_grade() {
+    return text(inlet_location) == continuous_grade;
+}
+
+bool in_sump() {
+    return text(inlet_location) == sump;
+}
+
+void enter(FieldId field) {
+    frminletMDIC.focused = field;
+    if (has_rule(field, selects)) {
+        SelectFieldText(field);
+    }
+    call(handlers_of(field).got_focus);
+}
+
+void edited(FieldId field, std::string_view text) {
+    const std::size_t limit = screen_field(field).limit;
+    set_text(field, limit == 0 ? std::string(text) : platform::first_characters(text, limit));
+}
+
+void opened_list(FieldId field) {
+    call(handlers_of(field).drop_down);
+}
+
+void picked(FieldId field, std::string_view entry) {
+    set_text(field, entry);
+    call(handlers_of(field).click);
+}
+
+void clicked(FieldId field) {
+    if (screen_field(field).kind == Kind::check_box) {
+        auto& box = frminletMDIC.screen[field];
+        box.checked = !box.checked;
+    }
+    call(handlers_of(field).click);
+}
+
+void tab_clicked(int tab) {
+    show_tab(tab);
+}
+
+bool leave(FieldId field) {
+    if (frminletMDIC.focused != field) {
+        return true;
+    }
+    if (!may_leave(field)) {
+        return false;
+    }
+    frminletMDIC.focused.reset();
+    frminletMDIC.wanted_focus.reset();
+    left(field);
+    if (frminletMDIC.wanted_focus == field) {
+        enter(field);
+        return false;
+    }
+    return true;
+}
+
+bool leave_focused_field() {
+    return !frminletMDIC.focused || leave(*frminletMDIC.focused);
+}
+
+bool may_leave(FieldId field) {
+    if (has_rule(field, checks_list) && list_refuses(field)) {
+        return false;
+    }
+    const auto validate = handlers_of(field).validate;
+    return validate == nullptr || !validate();
+}
+
+void left(FieldId field) {
+    if (has_rule(field, formats)) {
+        format_field(field);
+    }
+    call(handlers_of(field).lost_focus);
+}
+
+void cmdsolve_Click() {
+    const auto was_in = frminletMDIC.focused;
+    if (!leave_focused_field() && was_in != Inlet_Number) {
+        return;
+    }
+    follow_project_units();
+    if (engine::cmdsolve_Click()) {
+        field(Results_Frame).enabled = false;
+        show_tab(3);
+    } else if (was_in) {
+        enter(*was_in);
+    }
+}
+
+}  // namespace gullymark::editor

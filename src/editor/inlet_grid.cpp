@@ -1,0 +1,78 @@
+#include "editor/inlet_grid.h"
+
+#include <algorithm>
+
+#include "editor/form_access.h"
+#include "editor/life_cycle.h"
+#include "editor/workspace.h"
+#include "engine/solve.h"
+#include "platform/outside.h"
+#include "store/project_store.h"
+
+namespace gullymark::editor {
+
+InletGrid frmgrid;
+
+void load_inlet_grid() {
+    if (frmgrid.loaded) {
+        return;
+    }
+    frmgrid.loaded = true;
+    ++frmgrid.loads;
+    platform::show_wait_pointer(true);
+    ignore_failure([] { MDIInlet.Adodc1.open(store::select_grid); });
+    platform::show_wait_pointer(false);
+    if (MDIInlet.Adodc1.record_count() >= 1) {
+        SelectGridRow();
+    }
+    engine::DataSolved = true;
+}
+
+void unload_inlet_grid() {
+    frmgrid = {.loads = frmgrid.loads};
+}
+
+void SelectGridRow() {
+    if (MDIInlet.CurrentGridRow == 0) {
+        MDIInlet.CurrentGridRow = 1;
+    }
+    // A remembered row can lie behind the end after another program took rows away.
+    frmgrid.row = std::min(MDIInlet.CurrentGridRow, MDIInlet.Adodc1.record_count());
+    flexgrid_Click();
+}
+
+void pick_grid_row(int row) {
+    frmgrid.row = row;
+    flexgrid_EnterCell();
+    flexgrid_Click();
+}
+
+void flexgrid_EnterCell() {
+    MDIInlet.CurrentGridRow = frmgrid.row;
+}
+
+void flexgrid_Click() {
+    if (MDIInlet.Adodc1.record_count() == 0 || frmgrid.row == 0 || !viewing()) {
+        return;
+    }
+    MDIInlet.CurrentGridRow = frmgrid.row;
+    show_tab(0);
+    set_tab_display(0);
+    Inletrecord_find(current_grid_number());
+    update_currentstatusbar();
+}
+
+std::string grid_cell(int row, std::size_t column) {
+    return MDIInlet.Adodc1.cell(row, column);
+}
+
+std::string current_grid_number() {
+    return grid_cell(frmgrid.row, 0);
+}
+
+void remember_grid_row(int row) {
+    MDIInlet.CurrentGridRow = row;
+    frmgrid.row = row;
+}
+
+}  // namespace gullymark::editor

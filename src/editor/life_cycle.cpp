@@ -1,0 +1,147 @@
+#include "editor/life_cycle.h"
+
+#include "editor/bound_row.h"
+#include "editor/defaults.h"
+#include "editor/discharge.h"
+#include "editor/field_enabling.h"
+#include "editor/form_access.h"
+#include "editor/workspace.h"
+#include "engine/solve.h"
+#include "engine/unit_constants.h"
+#include "platform/outside.h"
+#include "store/project_session.h"
+#include "store/project_store.h"
+
+namespace gullymark::editor {
+namespace {
+
+using enum FieldId;
+
+constexpr int add_new_reason = 1;
+constexpr int first_change_reason = 11;
+constexpr int parent_closes_reason = 4;
+
+void InitEditorForm() {
+    set_text(txtProject, store::session.projectName);
+    frminletMDIC.road_name.clear();
+    engine::unit_constants.numberFormat = "0.000";
+    show_tab(0);
+}
+
+}  // namespace
+
+void load_inlet_editor() {
+    if (frminletMDIC.loaded) {
+        return;
+    }
+    frminletMDIC.loaded = true;
+    platform::show_wait_pointer(true);
+    engine::open_inlet = {};
+    engine::open_inlet.on_first_change = [] { adoInletRS_WillChangeRecord(first_change_reason); };
+    engine::clear_results();
+    InitEditorForm();
+    FillFormLists();
+    SetFormDefaults();
+    get_all_projectrecords();
+    set_tab_display(frminletMDIC.screen.tab);
+    Activate_menu("View");
+    platform::show_wait_pointer(false);
+    update_statusbar();
+    engine::DataSolved = true;
+}
+
+void unload_inlet_editor() {
+    frminletMDIC = {};
+    engine::open_inlet = {};
+}
+
+bool refuses_to_close(int reason) {
+    return reason == parent_closes_reason;
+}
+
+void get_all_projectrecords() {
+    get_inlet_records("");
+    attach_inlet_datasource();
+    get_discharge_carryover("newquery");
+}
+
+void get_inlet_records(const std::string& key) {
+    auto& rows = frminletMDIC.adoInletRS;
+    try {
+        rows = platform::RowSet();
+        rows.open(store::project_store.connection,
+                  key.empty() ? store::select_inlets : store::select_inlet(key));
+        if (!rows.at_beginning()) {
+            rows.move_first();
+        }
+    } catch (const platform::Failure& failure) {
+        platform::tell(failure.what());
+    }
+}
+
+void attach_inlet_datasource() {
+    auto& rows = frminletMDIC.adoInletRS;
+    if (rows.is_open()) {
+        load_row(rows, engine::open_inlet);
+    } else {
+        load_row(platform::RowSet(), engine::open_inlet);
+    }
+}
+
+void adoInletRS_WillChangeRecord(int reason) {
+    if (reason == add_new_reason || reason == first_change_reason) {
+        engine::DataSolved = false;
+    }
+}
+
+void Inletrecord_find(const std::string& number) {
+    ignore_failure([&] {
+        auto& rows = frminletMDIC.adoInletRS;
+        rows.move_first();
+        rows.find("INLET_NUMBER = '" + number + "'");
+    });
+    ignore_failure(attach_inlet_datasource);
+}
+
+void SSTab1_Click(int /*previous_tab*/) {
+    const int tabnumber = frminletMDIC.screen.tab;
+    set_tab_display(tabnumber);
+    if (tabnumber == 1) {
+        show_overrides(frminletMDIC.screen);
+    }
+}
+
+void set_tab_display(int tab) {
+    switch (tab) {
+        case 0:
+            frminletMDIC.screen.tab = 0;
+            break;
+        case 1:
+            ShowDischargeFrames();
+            break;
+        case 2:
+            ShowInletDataFields();
+            break;
+        case 3:
+            show_result_captions(frminletMDIC.screen);
+            break;
+        default:
+            break;
+    }
+}
+
+void show_tab(int tab) {
+    auto& shown = frminletMDIC.screen.tab;
+    if (shown == tab) {
+        return;
+    }
+    const int previous = shown;
+    shown = tab;
+    // A field that goes out of sight is not left, and nothing there can take the focus.
+    frminletMDIC.focused.reset();
+    frminletMDIC.wanted_focus.reset();
+    frminletMDIC.wanted_selection.reset();
+    SSTab1_Click(previous);
+}
+
+}  // namespace gullymark::editor

@@ -1,0 +1,232 @@
+#include <array>
+
+#include "editor/bound_row.h"
+#include "editor/defaults.h"
+#include "editor/discharge.h"
+#include "editor/form_access.h"
+#include "editor/inlet_grid.h"
+#include "editor/life_cycle.h"
+#include "editor/renumber_dialog.h"
+#include "editor/workspace.h"
+#include "engine/solve.h"
+#include "platform/outside.h"
+#include "store/project_session.h"
+#include "store/project_store.h"
+
+namespace gullymark::editor {
+namespace {
+
+using engine::DataSolved;
+using platform::BoxKind;
+using platform::tell;
+using store::CheckInletUsage;
+using enum FieldId;
+
+// clang-format off
+// What a copy takes over: no number, no previous inlets with their carryover, no results.
+constexpr auto copied_fields = std::to_array<FieldId>({
+    RoadWay, inlet_type, Station, inlet_location, inlet_subtype, offset, offset_location, TopElevation,
+    allowable_spread, curb_height, flow_direction, runoff_area, runoff_coeff, intensity, runoff_area2, runoff_coeff2,
+    intensity2, Ldischarge_override, Rdischarge_override, discharge1, discharge2, QTotal, storm_frequency,
+    overland_flow, txtS, txtn, txtW, txtSx, txtSw, txtWa, txtSdashW, txta, cboLength, txtWg, cboType, cboCurb,
+    cboThroat, cboClog, cboLCOUG, txtzl, txtzr, txthco, txtAngle, txtPeri, txtArea, txtslotw,
+});
+// clang-format on
+
+/// A pending new row behind the last one; the fields are empty.
+void append_row() {
+    auto& rows = frminletMDIC.adoInletRS;
+    rows.requery();
+    if (rows.record_count() >= 1) {
+        rows.move_last();
+    }
+    rows.add_new();
+    load_row(rows, engine::open_inlet);
+    adoInletRS_WillChangeRecord(1);
+}
+
+void requery_inlets() {
+    frminletMDIC.adoInletRS.requery();
+    attach_inlet_datasource();
+}
+
+/// The inlet downstream, if `CheckInletUsage` finds one that names this number.
+bool feeds_another(const std::string& number) {
+    return CheckInletUsage(number, "PREINLET1") || CheckInletUsage(number, "PREINLET2");
+}
+
+void tell_inlet_downstream() {
+    if (feeds_another(text(Inlet_Number))) {
+        const std::string& next = store::session.ReferencingInletNumber;
+        tell("Current Inlet has Carryover Discharge to Inlet Number - " + next +
+                 "\r\nPlease review the design, solve & save the results for Inlet - " + next,
+             BoxKind::information);
+    }
+}
+
+void renumber(const std::string& from, const std::string& to) {
+    for (const auto& statement : store::renumber_inlet(to, from)) {
+        store::project_store.connection.execute(statement);
+    }
+}
+
+}  // namespace
+
+void SetAddrecord() {
+    DataSolved = false;
+    Activate_menu("Add");
+    frminletMDIC.road_name = text(RoadWay);
+    AddRecord();
+    update_currentstatusbar();
+    enter(Inlet_Number);
+    frminletMDIC.wanted_focus = Inlet_Number;
+}
+
+void AddRecord() {
+    try {
+        append_row();
+        set_text(project_id, store::session.projectId);
+        set_text(RoadWay, frminletMDIC.road_name);
+        SetFormDefaults();
+    } catch (const platform::Failure& failure) {
+        tell(failure.what());
+    }
+}
+
+void SetCopyrecord() {
+    DataSolved = false;
+    CaptureInletFields();
+    Activate_menu("Add");
+    AddCopiedRecord();
+    update_currentstatusbar();
+    enter(Inlet_Number);
+    frminletMDIC.wanted_focus = Inlet_Number;
+}
+
+void CaptureInletFields() {
+    frminletMDIC.held_values.clear();
+    for (const FieldId id : copied_fields) {
+        frminletMDIC.held_values.push_back(text(id));
+    }
+}
+
+void AddCopiedRecord() {
+    try {
+        append_row();
+        RestoreInletFields();
+    } catch (const platform::Failure& failure) {
+        tell(failure.what());
+    }
+}
+
+void RestoreInletFields() {
+    set_text(project_id, store::session.projectId);
+    const auto& values = frminletMDIC.held_values;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        set_text(copied_fields.at(i), values[i]);
+    }
+}
+
+void SetEditRecord() {
+    DataSolved = false;
+    Activate_menu("Edit");
+}
+
+void SaveinletRecord() {
+    show_tab(3);
+    if (text(Inlet_Number).empty()) {
+        tell("Inlet number can't be blank.  Please enter a valid unique Inlet Number", BoxKind::warning);
+        show_tab(0);
+        return;
+    }
+    if (!DataSolved) {
+        tell("Data has changed! Please 'Solve' Inlet Analysis before saving");
+        return;
+    }
+    UpdateRecord();
+    ignore_failure([] { MDIInlet.Adodc1.refresh(); });
+    update_currentstatusbar();
+    tell("Record Saved", BoxKind::information);
+    if (mode() == "EDIT") {
+        tell_inlet_downstream();
+    }
+    if (mode() == "ADD" && MDIInlet.Adodc1.record_count() >= 1) {
+        remember_grid_row(MDIInlet.Adodc1.record_count());
+    }
+    Activate_menu("View");
+    for (const std::size_t button : {7U, 5U, 3U, 1U}) {
+        MDIInlet.Toolbar1.at(button).checked = false;
+    }
+}
+
+void UpdateRecord() {
+    ignore_failure([] {
+        save_row(frminletMDIC.adoInletRS, engine::open_inlet);
+        engine::open_inlet.begin_new_changes();
+        get_discharge_carryover("requery");
+        update_currentstatusbar();
+    });
+}
+
+void CancelUpdate() {
+    ignore_failure([] {
+        frminletMDIC.adoInletRS.cancel();
+        attach_inlet_datasource();
+    });
+}
+
+void current_record_delete() {
+    const std::string number = current_grid_number();
+    if (!platform::ask("Delete Current Inlet - " + number + " ?")) {
+        return;
+    }
+    if (feeds_another(number)) {
+        tell("Current Inlet has Carryover Discharge to Inlet Number - " +
+                 store::session.ReferencingInletNumber + " - Delete Denied!",
+             BoxKind::warning);
+        return;
+    }
+    auto& rows = MDIInlet.Adodc1.rows;
+    rows.move(frmgrid.row - 1);
+    rows.remove();
+    rows.requery();
+    requery_inlets();
+    if (frmgrid.row >= 1) {
+        remember_grid_row(frmgrid.row - 1);
+    }
+    tell("Current record Deleted! Please Refresh the screen to verify the results", BoxKind::warning);
+    if (MDIInlet.Adodc1.record_count() == 0) {
+        tell("No Inlets in Project!  Please Add Inlets", BoxKind::information);
+    }
+}
+
+void modifyinlet() {
+    if (MDIInlet.Adodc1.record_count() == 0) {
+        tell("No inlets to Modify!", BoxKind::information);
+        return;
+    }
+    const std::string number = current_grid_number();
+    if (!platform::ask("Modify Current inlet number - " + number + " ?")) {
+        return;
+    }
+    frminletmodify.NewInletNumber.clear();
+    frminletmodify.CurrentInletNumber = number;
+    show_renumber_dialog();
+    const std::string new_number = frminletmodify.NewInletNumber;
+    if (new_number == number || new_number.empty()) {
+        return;
+    }
+    platform::show_wait_pointer(true);
+    try {
+        renumber(number, new_number);
+        platform::show_wait_pointer(false);
+        requery_inlets();
+        get_discharge_carryover("requery");
+        tell("Update completed! Please Refresh the screen to verify your changes", BoxKind::information);
+    } catch (const platform::Failure& failure) {
+        platform::show_wait_pointer(false);
+        tell(failure.what());
+    }
+}
+
+}  // namespace gullymark::editor
