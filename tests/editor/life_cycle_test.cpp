@@ -1,0 +1,462 @@
+#include "editor/life_cycle.h"
+
+#include "editor_test.h"
+
+namespace gullymark::editor {
+namespace {
+
+struct LifeCycle : EditorTest {
+    LifeCycle() {
+        show_workspace();
+        add_curb_inlet("10", "1");
+        solve_and_save();
+        add_curb_inlet("2", "2");
+        type(Station, "2+00");
+        type(RoadWay, "Main");
+        solve_and_save();
+        boxes();
+    }
+    [[nodiscard]] std::string all_numbers() const {
+        return stored("SELECT INLET_NUMBER FROM INLET ORDER BY INLET_NUMBER");
+    }
+    static void edit(int row) {
+        pick_grid_row(row);
+        mnuEditinlet_Click();
+    }
+};
+
+const Box saved = information("Record Saved");
+const Box unsolved = plain("Data has changed! Please 'Solve' Inlet Analysis before saving");
+
+// Opening the form.
+
+TEST_F(LifeCycle, TheFormOpensOnTheFirstRowInTextOrder) {
+    mnuExit_Click();
+    show_workspace();
+    EXPECT_EQ(grid_cell(1, 0), "10");
+    EXPECT_EQ(grid_cell(2, 0), "2");
+    EXPECT_EQ(shown(Inlet_Number), "10");
+    EXPECT_EQ(shown(txtProject), "Mill Road");
+    EXPECT_EQ(frminletMDIC.screen.tab, 0);
+    EXPECT_TRUE(engine::DataSolved);
+    EXPECT_EQ(mode(), "VIEW");
+    EXPECT_EQ(engine::unit_constants.numberFormat, "#0.000");
+}
+
+TEST_F(LifeCycle, TheWaitPointerEndsWithTheLoad) {
+    user.wait_pointers.clear();
+    mnuflexrefresh_Click();
+    EXPECT_EQ(user.wait_pointers, (std::vector<bool>{true, false, true, false}));
+}
+
+TEST_F(LifeCycle, TheFormRefusesToCloseWithItsParentWindow) {
+    EXPECT_TRUE(refuses_to_close(4));
+    EXPECT_FALSE(refuses_to_close(1));
+}
+
+// Add.
+
+TEST_F(LifeCycle, AddStartsANewRowWithTheRoadOfTheLastOne) {
+    pick_grid_row(2);
+    mnuAddinlet_Click();
+    EXPECT_EQ(mode(), "ADD");
+    EXPECT_FALSE(engine::DataSolved);
+    EXPECT_EQ(shown(RoadWay), "Main");
+    EXPECT_EQ(shown(project_id), "P-1");
+    EXPECT_EQ(shown(Inlet_Number), "");
+    EXPECT_EQ(shown(txtQi), "");
+    EXPECT_EQ(frminletMDIC.wanted_focus, Inlet_Number);
+    EXPECT_EQ(MDIInlet.screenmode[3], "");
+    EXPECT_EQ(all_numbers(), "10\n2") << "nothing is stored before the save";
+}
+
+TEST_F(LifeCycle, ASavedNewRowIsFoundInTheFileWithItsTexts) {
+    EXPECT_EQ(stored("SELECT PROJECT_ID, ROADWAY, STATION, DISCHARGE1, LDISCHARGE_OVERRIDE, INLET_SUBTYPE "
+                     "FROM INLET WHERE INLET_NUMBER = '2'"),
+              "P-1|Main|2+00|2.000|YES|");
+}
+
+TEST_F(LifeCycle, AfterAnAddTheLastRowIsSelectedWhereverTheNewOneSorts) {
+    add_curb_inlet("0", "1");
+    solve_and_save();
+    EXPECT_EQ(grid_cell(1, 0), "0");
+    EXPECT_EQ(MDIInlet.CurrentGridRow, 3);
+    EXPECT_EQ(frmgrid.row, 3);
+    EXPECT_EQ(shown(Inlet_Number), "2");
+}
+
+TEST_F(LifeCycle, AddShowsTheStoresErrorWhenTheFileIsClosed) {
+    store::project_store.connection.close();
+    mnuAddinlet_Click();
+    const Boxes shown_boxes = boxes();
+    ASSERT_FALSE(shown_boxes.empty());
+    EXPECT_EQ(shown_boxes[0].kind, BoxKind::plain);
+    EXPECT_EQ(shown_boxes[0].title, "GullymarkAL");
+}
+
+// Copy.
+
+TEST_F(LifeCycle, ACopyTakesTheDataButNoNumberNoPreviousInletsAndNoResults) {
+    put_inlets({{{"INLET_NUMBER", "P"}, {"QCARRY", "0.5"}}});
+    mnuflexrefresh_Click();
+    edit(2);
+    click_tab(1);
+    go_to(preinlet1);
+    edited(preinlet1, "P");
+    leave_focused_field();
+    solve_and_save();
+    boxes();
+    EXPECT_EQ(shown(QTotal), "2.500");
+
+    user.answers = {Answer::yes};
+    mnuflexcopyinlet_Click();
+    EXPECT_EQ(
+        boxes(),
+        (Boxes{{.kind = BoxKind::information_question, .text = "Copy Inlet -  2 - Data as a New Inlet?"}}));
+    EXPECT_EQ(mode(), "ADD");
+    EXPECT_FALSE(engine::DataSolved);
+    EXPECT_EQ(frminletMDIC.wanted_focus, Inlet_Number);
+    for (const FieldId id :
+         {Inlet_Number, preinlet1, preinlet2, carryover1, carryover2, txtQi, txtQc, txtE}) {
+        EXPECT_EQ(shown(id), "") << field_name(id);
+    }
+    EXPECT_EQ(shown(project_id), "P-1");
+    EXPECT_EQ(shown(RoadWay), "Main");
+    EXPECT_EQ(shown(Station), "2+00");
+    EXPECT_EQ(shown(discharge1), "2.000");
+    EXPECT_EQ(shown(QTotal), "2.500") << "the carryover of the old inlet is still in the sum";
+
+    type(Inlet_Number, "3");
+    leave_focused_field();
+    mnuSaveinlet_Click();
+    EXPECT_EQ(boxes(), Boxes{unsolved});
+    solve_and_save();
+    EXPECT_EQ(boxes(), Boxes{saved});
+    EXPECT_EQ(stored("SELECT QINT FROM INLET WHERE INLET_NUMBER = '3'").empty(), false);
+}
+
+// Every column: what a copy takes, and what it leaves.
+TEST_F(LifeCycle, ACopyTakesTheseColumns) {
+    for (const FieldId id : all_fields) {
+        if (screen_field(id).column) {
+            frminletMDIC.screen.set_text(id, "x" + std::string(field_name(id)));
+        }
+    }
+    user.answers = {Answer::yes};
+    mnuflexcopyinlet_Click();
+    std::vector<std::string> left_out;
+    for (const FieldId id : all_fields) {
+        if (!screen_field(id).column || screen_field(id).tab == 3) {
+            continue;
+        }
+        if (shown(id) != "x" + std::string(field_name(id))) {
+            left_out.emplace_back(field_name(id));
+        }
+    }
+    EXPECT_EQ(left_out, (std::vector<std::string>{"project_id", "Inlet_Number", "preinlet1", "carryover1",
+                                                  "preinlet2", "carryover2"}));
+}
+
+// Edit and save.
+
+TEST_F(LifeCycle, SaveRightAfterEditIsRefused) {
+    edit(1);
+    EXPECT_EQ(mode(), "EDIT");
+    mnuSaveinlet_Click();
+    EXPECT_EQ(boxes(), Boxes{unsolved});
+    EXPECT_EQ(mode(), "EDIT");
+    EXPECT_EQ(frminletMDIC.screen.tab, 3);
+}
+
+TEST_F(LifeCycle, EditLeavesTheTabAndLocksTheNumber) {
+    pick_grid_row(1);
+    click_tab(2);
+    mnuEditinlet_Click();
+    EXPECT_EQ(frminletMDIC.screen.tab, 2);
+    EXPECT_FALSE(field(Inlet_Number).enabled);
+    EXPECT_TRUE(frminletMDIC.screen.editable(txtS));
+}
+
+TEST_F(LifeCycle, AnEmptyNumberIsTestedBeforeTheSolve) {
+    mnuAddinlet_Click();
+    mnuSaveinlet_Click();
+    EXPECT_EQ(boxes(),
+              Boxes{warning("Inlet number can't be blank.  Please enter a valid unique Inlet Number")});
+    EXPECT_EQ(frminletMDIC.screen.tab, 0);
+    EXPECT_EQ(mode(), "ADD");
+}
+
+TEST_F(LifeCycle, ASolvedInletIsSavedAndOnlyItsRowChanges) {
+    const std::string other = stored("SELECT * FROM INLET WHERE INLET_NUMBER = '2'");
+    edit(1);
+    type(cboLength, "5");
+    Toolbar1_ButtonClick(10);
+    EXPECT_TRUE(engine::DataSolved);
+    EXPECT_EQ(frminletMDIC.screen.tab, 3);
+    EXPECT_FALSE(field(Results_Frame).enabled);
+    mnuSaveinlet_Click();
+    EXPECT_EQ(boxes(), Boxes{saved});
+    EXPECT_EQ(mode(), "VIEW");
+    EXPECT_EQ(shown(Inlet_Number), "10");
+    EXPECT_EQ(stored("SELECT INLETLENGTH FROM INLET WHERE INLET_NUMBER = '10'"), "5.000");
+    EXPECT_EQ(stored("SELECT * FROM INLET WHERE INLET_NUMBER = '2'"), other);
+}
+
+TEST_F(LifeCycle, AChangeAfterTheSolveMustBeSolvedAgain) {
+    edit(1);
+    click_tab(2);
+    Toolbar1_ButtonClick(10);
+    click_tab(2);
+    EXPECT_TRUE(engine::DataSolved) << "looking at the inlet data again changes nothing";
+    type(txtn, "0.02");
+    EXPECT_FALSE(engine::DataSolved);
+    EXPECT_NE(shown(txtQi), "") << "old results stay on view";
+    mnuSaveinlet_Click();
+    EXPECT_EQ(boxes(), Boxes{unsolved});
+    solve_and_save();
+    EXPECT_EQ(boxes(), Boxes{saved});
+}
+
+// What the first look at the inlet data empties is a change like any other.
+TEST_F(LifeCycle, EmptyingFieldsAfterTheSolveIsAChange) {
+    edit(1);
+    Toolbar1_ButtonClick(10);
+    click_tab(2);
+    EXPECT_FALSE(engine::DataSolved);
+}
+
+TEST_F(LifeCycle, PassingThroughAFieldWithoutAChangeKeepsTheInletSolved) {
+    edit(1);
+    click_tab(2);
+    Toolbar1_ButtonClick(10);
+    click_tab(1);
+    go_to(discharge1);
+    leave_focused_field();
+    click_tab(2);
+    go_to(txtSdashW);
+    go_to(txtSx);
+    leave_focused_field();
+    EXPECT_TRUE(engine::DataSolved);
+}
+
+TEST_F(LifeCycle, ARefusedSolveDoesNotMakeTheInletSavable) {
+    edit(1);
+    click_tab(1);
+    type(discharge1, "0");
+    Toolbar1_ButtonClick(10);
+    EXPECT_EQ(boxes(), (Boxes{{.kind = BoxKind::warning,
+                               .text = "No results computed.  Check your input for discharge.",
+                               .title = "Errur"}}));
+    EXPECT_EQ(shown(QTotal), "0.000") << "the field was left first";
+    EXPECT_EQ(frminletMDIC.screen.tab, 1);
+    EXPECT_EQ(frminletMDIC.focused, discharge1);
+    mnuSaveinlet_Click();
+    EXPECT_EQ(boxes(), Boxes{unsolved});
+}
+
+TEST_F(LifeCycle, ARefusedLeaveStopsTheSolve) {
+    edit(1);
+    click_tab(2);
+    go_to(cboClog);
+    edited(cboClog, "100");
+    Toolbar1_ButtonClick(10);
+    EXPECT_EQ(boxes(), Boxes{warning("Clogged cannot be 100%! Please enter new value.")});
+    EXPECT_FALSE(engine::DataSolved);
+    EXPECT_EQ(frminletMDIC.screen.tab, 2);
+}
+
+TEST_F(LifeCycle, TheSpeakingCheckOfTheNumberDoesNotStopTheSolve) {
+    add_curb_inlet("3", "1");
+    type(Inlet_Number, "");
+    Toolbar1_ButtonClick(10);
+    EXPECT_EQ(boxes(), Boxes{information("Please enter a valid unique Inlet Number!")});
+    EXPECT_TRUE(engine::DataSolved);
+    EXPECT_EQ(frminletMDIC.screen.tab, 3);
+    EXPECT_EQ(frminletMDIC.focused, std::nullopt);
+    EXPECT_EQ(frminletMDIC.wanted_focus, std::nullopt);
+}
+
+TEST_F(LifeCycle, SaveForcesNoLeave) {
+    edit(1);
+    click_tab(2);
+    Toolbar1_ButtonClick(10);
+    click_tab(2);
+    go_to(cboClog);
+    mnuSaveinlet_Click();
+    EXPECT_EQ(boxes(), Boxes{saved});
+}
+
+TEST_F(LifeCycle, AFailedWriteIsNotTold) {
+    edit(1);
+    type(cboLength, "5");
+    Toolbar1_ButtonClick(10);
+    stored("DELETE FROM INLET WHERE INLET_NUMBER = '10'");
+    mnuSaveinlet_Click();
+    EXPECT_EQ(boxes(), Boxes{saved});
+    EXPECT_EQ(mode(), "VIEW");
+    EXPECT_EQ(all_numbers(), "2");
+}
+
+TEST_F(LifeCycle, SaveReleasesTheButtons) {
+    Toolbar1_ButtonClick(1);
+    EXPECT_TRUE(MDIInlet.Toolbar1[1].checked);
+    type(Inlet_Number, "3");
+    leave_focused_field();
+    click_tab(1);
+    clicked(Left_override);
+    type(discharge1, "1");
+    Toolbar1_ButtonClick(10);
+    Toolbar1_ButtonClick(7);
+    for (const std::size_t button : {1U, 3U, 5U, 7U}) {
+        EXPECT_FALSE(MDIInlet.Toolbar1.at(button).checked) << button;
+    }
+    EXPECT_TRUE(MDIInlet.Toolbar1[10].checked);
+}
+
+// Delete.
+
+TEST_F(LifeCycle, DeleteAsksAndTakesTheRowOfTheGrid) {
+    pick_grid_row(2);
+    user.answers = {Answer::yes};
+    mnuflexdeleteinlet_Click();
+    EXPECT_EQ(boxes(),
+              (Boxes{question("Delete Current Inlet - 2 ?"),
+                     warning("Current record Deleted! Please Refresh the screen to verify the results")}));
+    EXPECT_EQ(all_numbers(), "10");
+    EXPECT_EQ(MDIInlet.CurrentGridRow, 1);
+    EXPECT_EQ(shown(Inlet_Number), "10");
+}
+
+TEST_F(LifeCycle, DeletingTheFirstRowSelectsTheNewFirstRow) {
+    pick_grid_row(1);
+    user.answers = {Answer::yes};
+    mnuflexdeleteinlet_Click();
+    EXPECT_EQ(all_numbers(), "2");
+    EXPECT_EQ(MDIInlet.CurrentGridRow, 1);
+    EXPECT_EQ(shown(Inlet_Number), "2");
+}
+
+TEST_F(LifeCycle, DeleteTakesOnlyOneOfTwoRowsWithTheSameNumber) {
+    put_inlets({{{"INLET_NUMBER", "2"}, {"STATION", "twin"}}});
+    mnuflexrefresh_Click();
+    pick_grid_row(3);
+    user.answers = {Answer::yes};
+    mnuflexdeleteinlet_Click();
+    EXPECT_EQ(all_numbers(), "10\n2");
+}
+
+TEST_F(LifeCycle, ANoKeepsTheInlet) {
+    user.answers = {Answer::no};
+    mnuflexdeleteinlet_Click();
+    EXPECT_EQ(boxes().size(), 1U);
+    EXPECT_EQ(all_numbers(), "10\n2");
+}
+
+Box delete_denied(const std::string& number) {
+    return warning("Current Inlet has Carryover Discharge to Inlet Number - " + number + " - Delete Denied!");
+}
+
+TEST_F(LifeCycle, AnInletThatFeedsAnotherIsNotDeleted) {
+    put_inlets({{{"INLET_NUMBER", "L"}, {"PREINLET1", "10"}}, {{"INLET_NUMBER", "R"}, {"PREINLET2", "2"}}});
+    mnuflexrefresh_Click();
+    user.answers = {Answer::yes, Answer::yes};
+    pick_grid_row(1);
+    mnuflexdeleteinlet_Click();
+    EXPECT_EQ(boxes(), (Boxes{question("Delete Current Inlet - 10 ?"), delete_denied("L")}));
+    pick_grid_row(2);
+    mnuflexdeleteinlet_Click();
+    EXPECT_EQ(boxes(), (Boxes{question("Delete Current Inlet - 2 ?"), delete_denied("R")}));
+    EXPECT_EQ(all_numbers(), "10\n2\nL\nR");
+}
+
+TEST_F(LifeCycle, DeletingTheLastInletShowsBothBoxesAndTheEmptyState) {
+    user.answers = {Answer::yes, Answer::yes};
+    mnuflexdeleteinlet_Click();
+    boxes();
+    mnuflexdeleteinlet_Click();
+    EXPECT_EQ(boxes(),
+              (Boxes{question("Delete Current Inlet - 10 ?"),
+                     warning("Current record Deleted! Please Refresh the screen to verify the results"),
+                     information("No Inlets in Project!  Please Add Inlets")}));
+    EXPECT_FALSE(MDIInlet.mnuEditinlet.enabled);
+    EXPECT_EQ(shown(Inlet_Number), "");
+    mnuflexdeleteinlet_Click();
+    EXPECT_EQ(boxes(), Boxes{information("No records to Delete!")});
+}
+
+// Cancel.
+
+TEST_F(LifeCycle, ACancelledNewRowIsGone) {
+    mnuAddinlet_Click();
+    type(Inlet_Number, "3");
+    user.answers = {Answer::yes};
+    mnuExit_Click();
+    EXPECT_EQ(boxes(), (Boxes{{.kind = BoxKind::information_question,
+                               .text = "Exit without Saving?",
+                               .title = "Gullymark"}}));
+    EXPECT_EQ(mode(), "VIEW");
+    EXPECT_EQ(all_numbers(), "10\n2");
+    EXPECT_EQ(shown(Inlet_Number), "2");
+}
+
+TEST_F(LifeCycle, ACancelledChangeIsGone) {
+    edit(1);
+    type(cboLength, "7");
+    user.answers = {Answer::yes};
+    mnuExit_Click();
+    EXPECT_EQ(shown(cboLength), "2.00");
+    EXPECT_EQ(stored("SELECT INLETLENGTH FROM INLET WHERE INLET_NUMBER = '10'"), "2.00");
+}
+
+// Following the grid.
+
+TEST_F(LifeCycle, APickInTheGridShowsTheInletOnTheFirstTab) {
+    click_tab(3);
+    pick_grid_row(2);
+    EXPECT_EQ(frminletMDIC.screen.tab, 0);
+    EXPECT_EQ(shown(Inlet_Number), "2");
+    EXPECT_EQ(MDIInlet.screenmode[3], "2");
+    pick_grid_row(1);
+    EXPECT_EQ(shown(Inlet_Number), "10");
+}
+
+TEST_F(LifeCycle, AnUnknownNumberEmptiesTheForm) {
+    Inletrecord_find("none");
+    EXPECT_TRUE(frminletMDIC.adoInletRS.at_end());
+    EXPECT_EQ(shown(Inlet_Number), "");
+    Inletrecord_find("10");
+    EXPECT_EQ(shown(Inlet_Number), "10");
+}
+
+// Tabs.
+
+TEST_F(LifeCycle, TheResultsOfADitchOnGradeHaveCaptionsOfTheirOwn) {
+    click_tab(3);
+    EXPECT_EQ(field(rlbldepth).caption, "DEPTH AT CURB");
+    EXPECT_EQ(field(rlblflowratio).caption, "GUTTER FLOW RATIO");
+    frminletMDIC.screen.set_text(inlet_type, "Grate Inlet in a Ditch");
+    set_tab_display(3);
+    EXPECT_EQ(field(rlbldepth).caption, "DEPTH OF WATER");
+    EXPECT_EQ(field(rlblflowratio).caption, "DITCH FLOW RATIO");
+    frminletMDIC.screen.set_text(inlet_location, "SUMP");
+    set_tab_display(3);
+    EXPECT_EQ(field(rlbldepth).caption, "DEPTH AT CURB");
+    EXPECT_EQ(field(rlblflowratio).caption, "GUTTER FLOW RATIO");
+    EXPECT_FALSE(field(Results_Frame).enabled);
+}
+
+// An apostrophe.
+
+TEST_F(LifeCycle, AnApostropheInANumberShowsTheStoresError) {
+    mnuAddinlet_Click();
+    type(Inlet_Number, "O'B");
+    EXPECT_TRUE(leave_focused_field());
+    const Boxes shown_boxes = boxes();
+    ASSERT_EQ(shown_boxes.size(), 1U);
+    EXPECT_EQ(shown_boxes[0].kind, BoxKind::plain);
+    EXPECT_EQ(shown_boxes[0].title, "GullymarkAL");
+    EXPECT_EQ(shown(Inlet_Number), "O'B");
+}
+
+}  // namespace
+}  // namespace gullymark::editor

@@ -1,0 +1,427 @@
+#include "editor/workspace.h"
+
+#include <array>
+
+#include "editor_test.h"
+#include "platform/files.h"
+
+namespace gullymark::editor {
+namespace {
+
+struct WorkspaceTest : EditorTest {
+    void show_with(int inlets) {
+        for (int i = 1; i <= inlets; ++i) {
+            put_inlets({{{"INLET_NUMBER", std::to_string(i)},
+                         {"INLET_TYPE", "Curb Inlet"},
+                         {"INLET_LOCATION", "CONTINUOUS GRADE"}}});
+        }
+        show_workspace();
+    }
+};
+
+// The enable table: "View" with rows, "View" without, "Add", "Edit"; u is unchanged.
+
+struct EnableRow {
+    const char* name;
+    platform::Field Workspace::*item;
+    const char* states;
+};
+
+constexpr auto enable_rows = std::to_array<EnableRow>({
+    {"mnuAddinlet", &Workspace::mnuAddinlet, "++--"},
+    {"mnuSaveinlet", &Workspace::mnuSaveinlet, "--++"},
+    {"mnuEditinlet", &Workspace::mnuEditinlet, "+---"},
+    {"mnuflexrefresh", &Workspace::mnuflexrefresh, "++--"},
+    {"mnuflexcopyinlet", &Workspace::mnuflexcopyinlet, "+---"},
+    {"mnuflexmodifyinlet", &Workspace::mnuflexmodifyinlet, "+---"},
+    {"mnuflexdeleteinlet", &Workspace::mnuflexdeleteinlet, "+---"},
+    {"mnuflex_inlet_report", &Workspace::mnuflex_inlet_report, "+---"},
+    {"mnuInletDesignForm", &Workspace::mnuInletDesignForm, "+---"},
+    {"mnuExit", &Workspace::mnuExit, "++uu"},
+});
+
+void expect_states(std::size_t column, bool before) {
+    for (const auto& row : enable_rows) {
+        const char state = row.states[column];
+        EXPECT_EQ((MDIInlet.*row.item).enabled, state == 'u' ? before : state == '+')
+            << row.name << " in column " << column;
+    }
+    const bool view = column < 2;
+    EXPECT_EQ(frmgrid.enabled, view);
+    for (const FieldId frame : {Project_Details_Frame, Input_Details_Frame, Flow_Data_Frame, CG_frame}) {
+        EXPECT_EQ(frminletMDIC.screen[frame].enabled, !view) << field_name(frame);
+    }
+    constexpr std::array modes = {"VIEW", "VIEW", "ADD", "EDIT"};
+    EXPECT_EQ(MDIInlet.screenmode[1], modes.at(column));
+}
+
+void set_all(bool enabled) {
+    for (const auto& row : enable_rows) {
+        (MDIInlet.*row.item).enabled = enabled;
+    }
+    frminletMDIC.screen[Inlet_Number].enabled = enabled;
+}
+
+TEST_F(WorkspaceTest, ActivateMenuSetsTheModeAndWhatFollowsIt) {
+    show_with(1);
+    for (const bool before : {true, false}) {
+        set_all(before);
+        tab_clicked(2);
+        Activate_menu("View");
+        expect_states(0, before);
+        EXPECT_EQ(field(Inlet_Number).enabled, before);
+        EXPECT_EQ(frminletMDIC.screen.tab, 2);
+
+        set_all(before);
+        Activate_menu("Edit");
+        expect_states(3, before);
+        EXPECT_FALSE(field(Inlet_Number).enabled);
+        EXPECT_EQ(frminletMDIC.screen.tab, 2);
+
+        set_all(before);
+        Activate_menu("Add");
+        expect_states(2, before);
+        EXPECT_TRUE(field(Inlet_Number).enabled);
+        EXPECT_EQ(frminletMDIC.screen.tab, 0);
+    }
+}
+
+TEST_F(WorkspaceTest, WithoutRowsViewLeavesAddRefreshAndExit) {
+    show_with(0);
+    for (const bool before : {true, false}) {
+        set_all(before);
+        Activate_menu("View");
+        expect_states(1, before);
+    }
+}
+
+TEST_F(WorkspaceTest, AnyOtherWordDoesNothing) {
+    show_with(1);
+    for (const char* word : {"VIEW", "view", "", "Save"}) {
+        set_all(false);
+        Activate_menu(word);
+        EXPECT_EQ(mode(), "VIEW");
+        EXPECT_FALSE(MDIInlet.mnuAddinlet.enabled) << word;
+    }
+}
+
+TEST_F(WorkspaceTest, AnEmptyProjectOpensWithTheNoRowsState) {
+    show_with(0);
+    expect_states(1, true);
+    EXPECT_EQ(frmgrid.row, 0);
+    EXPECT_EQ(shown(Inlet_Number), "");
+}
+
+TEST_F(WorkspaceTest, AProjectWithRowsOpensOnItsFirstRow) {
+    show_with(2);
+    expect_states(0, true);
+    EXPECT_EQ(frmgrid.row, 1);
+    EXPECT_EQ(MDIInlet.CurrentGridRow, 1);
+    EXPECT_EQ(shown(Inlet_Number), "1");
+    EXPECT_TRUE(MDIInlet.visible);
+}
+
+TEST_F(WorkspaceTest, ThePanelsShowModeNumberProjectKindAndUnits) {
+    show_with(1);
+    EXPECT_EQ(MDIInlet.screenmode,
+              (std::array<std::string, 4>{"SCREEN MODE - ", "VIEW", "INLET NUMBER - ", "1"}));
+    EXPECT_EQ(MDIInlet.StatusBar,
+              (std::array<std::string, 3>{"AL - Mobile: Mill Road", "Curb Inlet - --CONTINUOUS GRADE",
+                                          "UNITS: ENGLISH"}));
+    EXPECT_EQ(MDIInlet.caption, "GullymarkAL");
+}
+
+TEST_F(WorkspaceTest, TheCurrentPanelsAloneFollowTheRecord) {
+    show_with(1);
+    store::session.projectName = "Other";
+    store::session.projectUnits = "METRIC";
+    frminletMDIC.screen.set_text(inlet_type, "Slotted Inlet");
+    update_currentstatusbar();
+    EXPECT_EQ(MDIInlet.StatusBar,
+              (std::array<std::string, 3>{"AL - Mobile: Mill Road", "Slotted Inlet - --CONTINUOUS GRADE",
+                                          "UNITS: ENGLISH"}));
+}
+
+// Menu.
+
+TEST(WorkspaceMenu, HasTheseItems) {
+    constexpr auto items = std::to_array<std::array<std::string_view, 2>>({
+        {"mnufile", "&File"},
+        {"mnuAddinlet", "&Add New Inlet"},
+        {"mnuEditinlet", "&Edit Inlet"},
+        {"mnuSaveinlet", "&Save Inlet"},
+        {"mnuflexrefresh", "&Refresh"},
+        {"mnuviewInlets", "&View Inlets"},
+        {"mnuflexcopyinlet", "Copy Inlet"},
+        {"mnuflexmodifyinlet", "&Modify Inlet Number"},
+        {"mnuflexdeleteinlet", "&Delete Inlet"},
+        {"mnuflex_inlet_report", "&Print Report"},
+        {"mnuInletDesignForm", "Inlet Design Form"},
+        {"mnuExit", "E&xit"},
+        {"mnuhelp", "&Help"},
+        {"mnuInlethelp", "&Help on GullymarkAL"},
+        {"mnuabout", "About GullymarkAL"},
+    });
+    ASSERT_EQ(workspace_menu.size(), items.size());
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        EXPECT_EQ(workspace_menu.at(i).name, items.at(i)[0]);
+        EXPECT_EQ(workspace_menu.at(i).caption, items.at(i)[1]);
+    }
+}
+
+TEST_F(WorkspaceTest, WithoutRowsEditAndCopySayThatThereIsNothing) {
+    show_with(0);
+    mnuEditinlet_Click();
+    EXPECT_EQ(boxes(), Boxes{information("No records to Edit!")});
+    EXPECT_EQ(mode(), "VIEW");
+    mnuflexcopyinlet_Click();
+    EXPECT_EQ(boxes(), Boxes{information("No records to Copy!")});
+}
+
+TEST_F(WorkspaceTest, ACopyIsMadeOnlyAfterAYes) {
+    show_with(1);
+    user.answers = {Answer::no};
+    mnuflexcopyinlet_Click();
+    EXPECT_EQ(mode(), "VIEW");
+    EXPECT_EQ(boxes().size(), 1U);
+}
+
+TEST_F(WorkspaceTest, OutsideViewCommandsThatChangeRowsDoNothing) {
+    show_with(1);
+    mnuEditinlet_Click();
+    int reports = 0;
+    windows.inlet_report = [&reports] { ++reports; };
+    mnuflexcopyinlet_Click();
+    mnuflexmodifyinlet_Click();
+    mnuflexdeleteinlet_Click();
+    mnuflexrefresh_Click();
+    mnuflex_inlet_report_Click();
+    EXPECT_EQ(boxes(), Boxes{});
+    EXPECT_EQ(mode(), "EDIT");
+    EXPECT_EQ(reports, 0);
+}
+
+TEST_F(WorkspaceTest, TheDesignFormTestsNoMode) {
+    show_with(1);
+    int reports = 0;
+    int forms = 0;
+    windows.inlet_report = [&reports] { ++reports; };
+    windows.InletDesignForm = [&forms] { ++forms; };
+    mnuflex_inlet_report_Click();
+    mnuInletDesignForm_Click();
+    EXPECT_EQ(reports, 1);
+    EXPECT_EQ(forms, 1);
+    mnuEditinlet_Click();
+    mnuInletDesignForm_Click();
+    EXPECT_EQ(forms, 2);
+}
+
+// Refresh.
+
+TEST_F(WorkspaceTest, RefreshShowsWhatAnotherProgramWrote) {
+    show_with(2);
+    pick_grid_row(2);
+    stored("UPDATE INLET SET STATION = '9+99'; INSERT INTO INLET (INLET_NUMBER) VALUES ('3')");
+    mnuflexrefresh_Click();
+    EXPECT_EQ(frmgrid.row, 2);
+    EXPECT_EQ(shown(Station), "9+99");
+    EXPECT_EQ(grid_cell(3, 0), "3");
+}
+
+TEST_F(WorkspaceTest, RefreshFollowsRowsThatCameIntoAnEmptyProject) {
+    show_with(0);
+    put_inlets({{{"INLET_NUMBER", "1"}}});
+    mnuflexrefresh_Click();
+    expect_states(0, true);
+    EXPECT_EQ(shown(Inlet_Number), "1");
+}
+
+TEST_F(WorkspaceTest, RefreshStaysWithinRowsThatWereTakenAway) {
+    show_with(3);
+    pick_grid_row(3);
+    stored("DELETE FROM INLET WHERE INLET_NUMBER > '1'");
+    mnuflexrefresh_Click();
+    EXPECT_EQ(frmgrid.row, 1);
+    EXPECT_EQ(shown(Inlet_Number), "1");
+}
+
+// Toolbar.
+
+struct ButtonRow {
+    int index;
+    const char* mode_after;
+};
+
+TEST_F(WorkspaceTest, InViewSaveAndSolveDoNothing) {
+    show_with(1);
+    for (const int index : {7, 10}) {
+        Toolbar1_ButtonClick(index);
+        EXPECT_FALSE(MDIInlet.Toolbar1.at(static_cast<std::size_t>(index)).checked);
+        EXPECT_EQ(frminletMDIC.screen.tab, 0);
+    }
+    EXPECT_EQ(boxes(), Boxes{});
+}
+
+TEST_F(WorkspaceTest, InAddAndEditTheButtonsOfViewDoNothing) {
+    show_with(1);
+    for (const char* word : {"Add", "Edit"}) {
+        Activate_menu(word);
+        const std::string before(mode());
+        for (const int index : {1, 3, 5}) {
+            Toolbar1_ButtonClick(index);
+            EXPECT_FALSE(MDIInlet.Toolbar1.at(static_cast<std::size_t>(index)).checked);
+            EXPECT_EQ(mode(), before);
+        }
+    }
+    EXPECT_EQ(boxes(), Boxes{});
+}
+
+TEST_F(WorkspaceTest, InViewAddCopyAndEditArePressedAndRun) {
+    show_with(1);
+    const auto rows = std::to_array<ButtonRow>({{1, "ADD"}, {3, "ADD"}, {5, "EDIT"}});
+    for (const auto& row : rows) {
+        Activate_menu("View");
+        user.answers = {Answer::yes};
+        Toolbar1_ButtonClick(row.index);
+        EXPECT_TRUE(MDIInlet.Toolbar1.at(static_cast<std::size_t>(row.index)).checked);
+        EXPECT_EQ(mode(), row.mode_after);
+        CancelUpdate();
+    }
+}
+
+TEST_F(WorkspaceTest, SeparatorsDoNothing) {
+    show_with(1);
+    for (const int index : {0, 2, 4, 6, 8, 9, 11, 12, 14, 15, 17}) {
+        Toolbar1_ButtonClick(index);
+    }
+    EXPECT_EQ(mode(), "VIEW");
+    EXPECT_TRUE(MDIInlet.visible);
+    for (const auto& button : MDIInlet.Toolbar1) {
+        EXPECT_FALSE(button.checked);
+    }
+}
+
+TEST(WorkspaceToolbar, HasTheseButtons) {
+    constexpr auto captions = std::to_array<ToolbarButton>(
+        {{1, "Add"}, {3, "Copy"}, {5, "Edit"}, {7, "Save"}, {10, "Solve"}, {13, "Exit"}, {16, "Help"}});
+    for (std::size_t i = 0; i < captions.size(); ++i) {
+        EXPECT_EQ(toolbar_buttons.at(i).index, captions.at(i).index);
+        EXPECT_EQ(toolbar_buttons.at(i).caption, captions.at(i).caption);
+    }
+}
+
+TEST_F(WorkspaceTest, HelpIsPressedWhileItRuns) {
+    show_with(1);
+    platform::set_program_folder("/program");
+    bool pressed = false;
+    platform::outside.open_help = [&](const std::string& help) {
+        pressed = MDIInlet.Toolbar1[16].checked;
+        EXPECT_EQ(help, "/program/GullymarkAL.chm");
+    };
+    Toolbar1_ButtonClick(16);
+    EXPECT_TRUE(pressed);
+    EXPECT_FALSE(MDIInlet.Toolbar1[16].checked);
+    platform::set_program_folder("");
+}
+
+TEST_F(WorkspaceTest, SolveRunsTheTabOnTheScreenFirst) {
+    show_with(1);
+    mnuEditinlet_Click();
+    click_tab(2);
+    frminletMDIC.screen.set_text(txtslotw, "4.00");
+    Toolbar1_ButtonClick(10);
+    EXPECT_EQ(shown(txtslotw), "");
+    EXPECT_TRUE(MDIInlet.Toolbar1[10].checked);
+}
+
+// Exit.
+
+const Box exit_question = {
+    .kind = BoxKind::information_question, .text = "Exit without Saving?", .title = "Gullymark"};
+
+TEST_F(WorkspaceTest, ExitInViewGoesBackToTheMainWindow) {
+    show_with(1);
+    mnuExit_Click();
+    EXPECT_FALSE(MDIInlet.visible);
+    EXPECT_FALSE(frminletMDIC.loaded);
+    EXPECT_FALSE(frmgrid.loaded);
+    EXPECT_TRUE(store::frmsoftwaremain.visible);
+    EXPECT_EQ(boxes(), Boxes{});
+}
+
+TEST_F(WorkspaceTest, ExitInAddAsksAndStays) {
+    show_with(1);
+    mnuAddinlet_Click();
+    user.answers = {Answer::no, Answer::yes};
+    mnuExit_Click();
+    EXPECT_EQ(boxes(), (Boxes{information("Please enter a valid unique Inlet Number!"), exit_question}));
+    EXPECT_EQ(mode(), "ADD");
+    type(Inlet_Number, "9");
+    mnuExit_Click();
+    EXPECT_EQ(boxes(), Boxes{exit_question});
+    EXPECT_EQ(mode(), "VIEW");
+    EXPECT_TRUE(MDIInlet.visible);
+    EXPECT_EQ(stored("SELECT count(*) FROM INLET"), "1");
+    mnuExit_Click();
+    EXPECT_FALSE(MDIInlet.visible);
+}
+
+TEST_F(WorkspaceTest, ExitMovesTheFocusOnFirst) {
+    show_with(1);
+    mnuEditinlet_Click();
+    int moves = 0;
+    windows.move_focus_on = [&moves] { ++moves; };
+    mnuExit_Click();
+    EXPECT_EQ(moves, 1);
+}
+
+TEST_F(WorkspaceTest, TheExitButtonLeavesSolvePressed) {
+    show_with(1);
+    mnuEditinlet_Click();
+    for (const std::size_t index : {1U, 3U, 5U, 7U, 16U}) {
+        MDIInlet.Toolbar1.at(index).checked = true;
+    }
+    Toolbar1_ButtonClick(13);
+    for (const std::size_t index : {1U, 3U, 5U, 7U, 16U}) {
+        EXPECT_FALSE(MDIInlet.Toolbar1.at(index).checked) << index;
+    }
+    EXPECT_TRUE(MDIInlet.Toolbar1[10].checked);
+    EXPECT_EQ(mode(), "EDIT") << "the answer was No";
+}
+
+TEST_F(WorkspaceTest, TheSystemMenuClosesLikeExit) {
+    show_with(1);
+    mnuEditinlet_Click();
+    user.answers = {Answer::yes};
+    EXPECT_FALSE(MDIForm_QueryUnload(0)) << "the first leaves the edit";
+    EXPECT_EQ(mode(), "VIEW");
+    EXPECT_TRUE(MDIForm_QueryUnload(0)) << "the second leaves the window";
+    EXPECT_TRUE(store::frmsoftwaremain.visible);
+}
+
+TEST_F(WorkspaceTest, AnyOtherUnloadingAsksTheSame) {
+    show_with(1);
+    mnuEditinlet_Click();
+    int moves = 0;
+    windows.move_focus_on = [&moves] { ++moves; };
+    EXPECT_FALSE(MDIForm_QueryUnload(2));
+    EXPECT_EQ(boxes(), Boxes{exit_question});
+    EXPECT_EQ(mode(), "EDIT");
+    user.answers = {Answer::yes};
+    EXPECT_FALSE(MDIForm_QueryUnload(2));
+    EXPECT_EQ(mode(), "VIEW");
+    EXPECT_EQ(moves, 0);
+    EXPECT_TRUE(MDIForm_QueryUnload(2));
+    EXPECT_FALSE(MDIInlet.visible);
+    EXPECT_TRUE(store::frmsoftwaremain.visible);
+}
+
+TEST_F(WorkspaceTest, AWorkspaceThatIsShownStaysAsItIs) {
+    show_with(1);
+    mnuEditinlet_Click();
+    show_workspace();
+    EXPECT_EQ(mode(), "EDIT");
+}
+
+}  // namespace
+}  // namespace gullymark::editor
