@@ -1,0 +1,409 @@
+#include <algorithm>
+#include <filesystem>
+#include <map>
+#include <sstream>
+
+#include "reports/report_fixture.h"
+#include "tools/case_table.h"
+
+namespace gullymark::reports {
+namespace {
+
+using platform::Box;
+using platform::BoxKind;
+using testing_support::read_file;
+using testing_support::write_file;
+
+constexpr const char* combination = "Combination Curb and Grate Inlet";
+
+engine::InletRecord inlet_of_kind(const std::string& type, const std::string& location) {
+    engine::InletRecord inlet;
+    inlet.load(Column::INLET_TYPE, type);
+    inlet.load(Column::INLET_LOCATION, location);
+    return inlet;
+}
+
+struct InletReport : ReportFixture {
+    /// Fills a report of one inlet.
+    void print(const engine::InletRecord& inlet) {
+        outside.choices = {target};
+        std::filesystem::remove(target);
+        spreadsheet.cells.clear();
+        inlet_report(1, inlet);
+    }
+};
+
+// What stands in the cells.
+
+/// The kinds of the cell table's heading.
+engine::InletRecord inlet_of_kind(const std::string& kind) {
+    const std::map<std::string, std::string> types = {{"curb", "Curb Inlet"},
+                                                      {"slotted", "Slotted Inlet"},
+                                                      {"grate", "Grate Inlet"},
+                                                      {"combination", combination},
+                                                      {"ditch", "Grate Inlet in a Ditch"}};
+    const auto blank = kind.find(' ');
+    return inlet_of_kind(types.at(kind.substr(blank + 1)),
+                         kind.substr(0, blank) == "sump" ? "SUMP" : "CONTINUOUS GRADE");
+}
+
+CellValue project_value(const std::string& source) {
+    const std::map<std::string, CellValue> values = {
+        {"project units", store::session.projectUnits},
+        {"project id", store::session.projectId},
+        {"project name", store::session.projectName},
+        {"project designer", store::session.projectDesigner},
+        {"project county", store::session.projectCounty},
+        {"project state", store::session.projectState},
+        {"today", today},
+    };
+    return values.at(source);
+}
+
+CellValue column_value(const engine::InletRecord& inlet, const std::string& name) {
+    const std::string& text = inlet.text(*engine::column_named(name));
+    const auto read = platform::read_number(text);
+    return read.fault == platform::NumberFault::none ? CellValue(read.number) : CellValue(text);
+}
+
+double term(const engine::InletRecord& inlet, const std::string& name) {
+    return name == "0" ? 0.0 : std::get<double>(column_value(inlet, name));
+}
+
+/// The value of a source of the cell table: "COLUMN", "COLUMN * COLUMN", "COLUMN + COLUMN", "project id", a literal.
+CellValue source_value(const engine::InletRecord& inlet, const std::string& source) {
+    if (source.empty()) {
+        return nothing;
+    }
+    if (source.front() == '"') {
+        return source.substr(1, source.size() - 2);
+    }
+    std::istringstream words(source);
+    std::string left;
+    std::string operation;
+    std::string right;
+    words >> left >> operation >> right;
+    if (operation == "*") {
+        return term(inlet, left) * term(inlet, right);
+    }
+    if (operation == "+") {
+        return term(inlet, left) + term(inlet, right);
+    }
+    return operation.empty() && left != "today" ? column_value(inlet, left) : project_value(source);
+}
+
+const cases::Table& cell_table() {
+    static const cases::Table table =
+        cases::read_table(std::string(GULLYMARK_TEST_DIR) + "/cases/inlet_report_cells.tsv");
+    return table;
+}
+
+platform::CellPosition position(const std::string& cell) {
+    const auto comma = cell.find(',');
+    return {std::stoi(cell.substr(0, comma)), std::stoi(cell.substr(comma + 1))};
+}
+
+struct CellMap : InletReport, testing::WithParamInterface<std::string> {
+    /// Every cell as the table tells it, and no other cell written.
+    void expect_cells_of_table(const engine::InletRecord& inlet, const std::string& kind) const {
+        const auto& heading = cell_table().columns;
+        const auto index =
+            static_cast<std::size_t>(std::find(heading.begin(), heading.end(), kind) - heading.begin());
+        std::size_t written = 0;
+        for (const auto& row : cell_table().rows) {
+            const auto cell = position(row[0]);
+            EXPECT_EQ(at(cell.row, cell.column), source_value(inlet, row[index])) << kind << ' ' << row[0];
+            written += row[index].empty() ? 0U : 1U;
+        }
+        EXPECT_EQ(spreadsheet.cells.size(), written);
+    }
+};
+
+TEST_P(CellMap, EveryCellOfEveryKindHoldsWhatItsTableTells) {
+    store::session.projectUnits = GetParam();
+    for (std::size_t kind = 1; kind < cell_table().columns.size(); ++kind) {
+        const std::string& name = cell_table().columns[kind];
+        engine::InletRecord inlet = inlet_of_kind(name);
+        for (const Column column : engine::all_columns) {
+            if (inlet.is_null(column)) {
+                inlet.load(column, own_number(column));
+            }
+        }
+        print(inlet);
+        expect_cells_of_table(inlet, name);
+    }
+}
+INSTANTIATE_TEST_SUITE_P(Units, CellMap, testing::Values("ENGLISH", "METRIC"));
+
+TEST_F(InletReport, TextsThatAreNoNumbersStandAsTheyAreAndNothingIsComputedFromThem) {
+    for (std::size_t kind = 1; kind < cell_table().columns.size(); ++kind) {
+        engine::InletRecord inlet = inlet_of_kind(cell_table().columns[kind]);
+        for (const Column column : engine::all_columns) {
+            if (inlet.is_null(column)) {
+                inlet.load(column, "=" + std::string(engine::column_name(column)));
+            }
+        }
+        print(inlet);
+        for (const auto& row : cell_table().rows) {
+            const auto cell = position(row[0]);
+            std::string source = row[kind];
+            if (source == "INLETLENGTH + OPENLEN_GRATE") {
+                source = "INLETLENGTH";  // what stood there before the total
+            }
+            const bool computed = source.find_first_of("*+") != std::string::npos;
+            EXPECT_EQ(at(cell.row, cell.column), computed ? nothing : source_value(inlet, source)) << row[0];
+        }
+    }
+}
+
+TEST_F(InletReport, AnUnknownTypeIsPrintedAsARoadInletAndAnUnknownLocationAsOnGrade) {
+    engine::InletRecord inlet = inlet_of_kind("Spillway", "sump");
+    inlet.load(Column::PAVXSLOPE, "0.02");
+    inlet.load(Column::DEPXSLOPE, "0.0625");
+    inlet.load(Column::DSBH, "0.4");
+    inlet.load(Column::GUTTERSPREAD, "7");
+    print(inlet);
+    EXPECT_EQ(at(24, 6), CellValue(0.02));
+    EXPECT_EQ(at(33, 6), CellValue(0.0625));
+    EXPECT_EQ(at(42, 10), CellValue(0.4));
+    EXPECT_EQ(at(33, 10), nothing);
+    EXPECT_EQ(at(15, 6), nothing);
+}
+
+TEST_F(InletReport, ANullClearsItsCellAndAnUnwrittenCellStaysAsInTheTemplate) {
+    spreadsheet.content.cells = {{{8, 2}, "number"s}, {{9, 2}, "type"s}, {{33, 10}, "as drawn"s}};
+    print({});
+    EXPECT_EQ(at(8, 2), nothing);
+    EXPECT_EQ(at(9, 2), nothing);
+    EXPECT_EQ(at(33, 10), CellValue("as drawn"s));
+}
+
+TEST_F(InletReport, TheDecimalsAreTheTemplatesUnlessTheCellIsAText) {
+    engine::InletRecord inlet;
+    inlet.load(Column::INLET_NUMBER, "10.0");
+    inlet.load(Column::RUNOFF_AREA, "1.50");
+    print(inlet);
+    EXPECT_EQ(at(8, 2), CellValue(10.0));
+    EXPECT_EQ(at(16, 5), CellValue(1.5));
+    spreadsheet.content.text_cells = {{{8, 2}, {8, 2}}};
+    print(inlet);
+    EXPECT_EQ(at(8, 2), CellValue("10.0"s));
+    EXPECT_EQ(at(16, 5), CellValue(1.5));
+}
+
+TEST_F(InletReport, TextsThatASpreadsheetCouldTakeForMoreStayTexts) {
+    for (const std::string text :
+         {"=1+1", "=HYPERLINK(\"http://example.com\")", "0123", "1/2", "-", "1e5", "+5"}) {
+        engine::InletRecord inlet = inlet_of_kind("Curb Inlet", "CONTINUOUS GRADE");
+        inlet.load(Column::ROADWAY, text);
+        inlet.load(Column::TOTAL_DISCHARGE, text);
+        print(inlet);
+        EXPECT_EQ(at(8, 4), CellValue(text));
+        EXPECT_EQ(at(19, 10), CellValue(text));
+    }
+}
+
+TEST_F(InletReport, ATextIsComputedWithWhereItReadsAsANumber) {
+    engine::InletRecord inlet;
+    inlet.load(Column::RUNOFF_AREA, "010");
+    inlet.load(Column::RUNOFF_COEFF, "5e-1");
+    print(inlet);
+    EXPECT_EQ(at(16, 5), CellValue("010"s));
+    EXPECT_EQ(at(18, 5), CellValue(5.0));
+}
+
+TEST_F(InletReport, TheTotalLengthOfACombinationOnGradeAddsTheTwoLengths) {
+    engine::InletRecord inlet = inlet_of_kind(combination, "CONTINUOUS GRADE");
+    inlet.load(Column::INLETLENGTH, "3.5");
+    inlet.load(Column::OPENLEN_GRATE, "4.25");
+    print(inlet);
+    EXPECT_EQ(at(10, 2), CellValue(7.75));
+    inlet.load(Column::OPENLEN_GRATE, "");
+    print(inlet);
+    EXPECT_EQ(at(10, 2), CellValue(3.5));
+    inlet.load(Column::OPENLEN_GRATE, "none");
+    inlet.load(Column::INLETLENGTH, "3.5 ft");
+    print(inlet);
+    EXPECT_EQ(at(10, 2), CellValue("3.5 ft"s));
+}
+
+TEST_F(InletReport, ARightAreaThatIsNoNumberLeavesItsProductAndTheTotalAsTheTemplateHasThem) {
+    spreadsheet.content.cells = {{{18, 6}, "product"s}, {{19, 6}, "total"s}};
+    engine::InletRecord inlet = inlet_of_kind("Curb Inlet", "SUMP");
+    inlet.load(Column::RUNOFF_AREA, "2");
+    inlet.load(Column::RUNOFF_AREA2, "big");
+    inlet.load(Column::RUNOFF_COEFF2, "0.5");
+    print(inlet);
+    EXPECT_EQ(at(16, 6), CellValue("big"s));
+    EXPECT_EQ(at(18, 6), CellValue("product"s));
+    EXPECT_EQ(at(19, 6), CellValue("total"s));
+}
+
+TEST_F(InletReport, TheTotalAreaAddsWhatTheSheetHoldsOnTheRight) {
+    spreadsheet.content.cells = {{{16, 6}, 0.25}};
+    engine::InletRecord inlet = inlet_of_kind("Curb Inlet", "CONTINUOUS GRADE");
+    inlet.load(Column::RUNOFF_AREA, "2");
+    print(inlet);
+    EXPECT_EQ(at(19, 6), CellValue(2.25));
+    inlet.load(Column::INLET_LOCATION, "SUMP");
+    print(inlet);
+    EXPECT_EQ(at(19, 6), CellValue(2.0));
+}
+
+TEST_F(InletReport, EmptyCellsCountAsZeroInAProduct) {
+    print(inlet_of_kind("Curb Inlet", "SUMP"));
+    EXPECT_EQ(at(18, 5), CellValue(0.0));
+    EXPECT_EQ(at(18, 6), CellValue(0.0));
+    EXPECT_EQ(at(19, 6), CellValue(0.0));
+}
+
+TEST_F(InletReport, AProductThatNoNumberHoldsIsLeftOut) {
+    engine::InletRecord inlet;
+    inlet.load(Column::RUNOFF_AREA, "1e300");
+    inlet.load(Column::RUNOFF_COEFF, "1e300");
+    print(inlet);
+    EXPECT_EQ(at(18, 5), nothing);
+    EXPECT_EQ(at(19, 6), CellValue(1e300));
+}
+
+TEST_F(InletReport, TheReportIsThatOfTheOneInletGiven) {
+    engine::open_inlet = {};
+    engine::open_inlet.load(Column::INLET_NUMBER, "other");
+    engine::InletRecord inlet;
+    inlet.load(Column::INLET_NUMBER, "this");
+    inlet_report(20, inlet);
+    EXPECT_EQ(at(8, 2), CellValue("this"s));
+    EXPECT_EQ(spreadsheet.shown, std::vector{target});
+    engine::open_inlet = {};
+}
+
+// The file and the boxes.
+
+TEST_F(InletReport, AProjectWithoutInletsIsTold) {
+    inlet_report(0, {});
+    EXPECT_EQ(
+        outside.boxes,
+        (std::vector<Box>{{BoxKind::information, "No Inlets to display on Inlet Report!", "GullymarkAL"}}));
+    EXPECT_TRUE(outside.requests.empty());
+    EXPECT_TRUE(spreadsheet.opened.empty());
+}
+
+TEST_F(InletReport, TheDialogAsksForTheReportsName) {
+    platform::printDlg.file_name = "old.gmk";
+    inlet_report(1, {});
+    ASSERT_EQ(outside.requests.size(), 1U);
+    const auto& request = outside.requests[0];
+    EXPECT_TRUE(request.saving);
+    EXPECT_EQ(request.file_name, "");
+    EXPECT_EQ(request.filter, "Inlet Report files (*.xls)|*.xls");
+    EXPECT_EQ(request.title, "Enter New File Name for Inlet Report");
+    EXPECT_EQ(request.initial_folder, program.path());
+    EXPECT_TRUE(outside.boxes.empty());
+}
+
+TEST_F(InletReport, TheFolderChosenIsWhereTheNextDialogStarts) {
+    inlet_report(1, {});
+    EXPECT_EQ(store::session.workingDirectory, user.path());
+    outside.choices = {user.path("next.xls")};
+    inlet_report(1, {});
+    EXPECT_EQ(outside.requests[1].initial_folder, user.path());
+}
+
+TEST_F(InletReport, ACopyOfTheTemplateIsOpenedFilledAndShownUnderTheWaitPointer) {
+    inlet_report(1, {});
+    EXPECT_EQ(read_file(target), "report template");
+    EXPECT_EQ(spreadsheet.opened, std::vector{target});
+    EXPECT_EQ(spreadsheet.shown, std::vector{target});
+    EXPECT_EQ(spreadsheet.sheet, platform::SheetChoice::first);
+    EXPECT_EQ(outside.wait_pointers, (std::vector{true, false}));
+}
+
+TEST_F(InletReport, ANameWithoutAnExtensionBecomesAWorkbooks) {
+    outside.choices = {user.path("report")};
+    inlet_report(1, {});
+    EXPECT_EQ(spreadsheet.shown, std::vector{target});
+}
+
+TEST_F(InletReport, ACancelEndsWithAWarningWhetherItIsAnErrorOrNot) {
+    for (const bool is_error : {false, true}) {
+        platform::printDlg.cancel_is_error = is_error;
+        platform::printDlg.file_name = "old.xls";
+        outside.choices.clear();
+        outside.boxes.clear();
+        inlet_report(1, {});
+        EXPECT_EQ(outside.boxes,
+                  (std::vector<Box>{{BoxKind::warning, "No File Name selected!", "GullymarkAL"}}));
+    }
+    EXPECT_TRUE(spreadsheet.opened.empty());
+    EXPECT_EQ(store::session.workingDirectory, "");
+    EXPECT_TRUE(outside.wait_pointers.empty());
+}
+
+TEST_F(InletReport, TheBareFilterIsNoFileName) {
+    outside.choices = {"*.xls"};
+    inlet_report(1, {});
+    EXPECT_EQ(outside.boxes, (std::vector<Box>{{BoxKind::warning, "No File Name selected!", "GullymarkAL"}}));
+    EXPECT_TRUE(spreadsheet.opened.empty());
+}
+
+TEST_F(InletReport, AFileThatExistsIsKeptOnNo) {
+    write_file(target, "old report");
+    outside.answers = {platform::Answer::no};
+    inlet_report(1, {});
+    EXPECT_EQ(
+        outside.boxes,
+        (std::vector<Box>{{BoxKind::warning_question, "File Already Exists!   Overwrite?", "GullymarkAL"}}));
+    EXPECT_EQ(read_file(target), "old report");
+    EXPECT_TRUE(spreadsheet.opened.empty());
+    EXPECT_EQ(store::session.workingDirectory, "");
+}
+
+TEST_F(InletReport, AfterYesTheOldReportIsABareTemplateBeforeTheSpreadsheetOpens) {
+    write_file(target, "old report");
+    outside.answers = {platform::Answer::yes};
+    std::string found;
+    platform::spreadsheet.open = [&](const std::string& path, platform::SheetChoice) {
+        found = read_file(path);
+        return platform::SheetContent();
+    };
+    inlet_report(1, {});
+    EXPECT_EQ(found, "report template");
+}
+
+TEST_F(InletReport, WithoutASpreadsheetTheCopyIsMadeAndNothingIsShown) {
+    platform::spreadsheet = {};
+    inlet_report(1, {});
+    EXPECT_EQ(read_file(target), "report template");
+    EXPECT_TRUE(outside.boxes.empty());
+    EXPECT_EQ(outside.wait_pointers, (std::vector{true, false}));
+}
+
+TEST_F(InletReport, ASpreadsheetThatFailsIsPassedOver) {
+    for (bool* fails : {&spreadsheet.fails_to_show, &spreadsheet.fails_to_open}) {
+        *fails = true;
+        outside.wait_pointers.clear();
+        print({});
+        EXPECT_TRUE(spreadsheet.shown.empty());
+        EXPECT_TRUE(outside.boxes.empty());
+        EXPECT_EQ(outside.wait_pointers, (std::vector{true, false}));
+    }
+}
+
+TEST_F(InletReport, AMissingTemplateLeavesTheOldReportToBeOpened) {
+    std::filesystem::remove(program.path("INLET_REPORTAL.xlr"));
+    write_file(target, "old report");
+    outside.answers = {platform::Answer::yes};
+    inlet_report(1, {});
+    EXPECT_EQ(read_file(target), "old report");
+    EXPECT_EQ(spreadsheet.shown, std::vector{target});
+    EXPECT_EQ(store::session.workingDirectory, user.path());
+}
+
+TEST_F(InletReport, AFolderThatIsNotThereCountsAsNoFileName) {
+    outside.choices = {user.path("missing/report.xls")};
+    inlet_report(1, {});
+    EXPECT_EQ(outside.boxes, (std::vector<Box>{{BoxKind::warning, "No File Name selected!", "GullymarkAL"}}));
+}
+
+}  // namespace
+}  // namespace gullymark::reports
