@@ -38,14 +38,15 @@ QLineEdit* line_of(QWidget& widget) {
     return list != nullptr ? list->lineEdit() : qobject_cast<QLineEdit*>(&widget);
 }
 
-Binder::Binder(QWidget& window, std::vector<ScreenItem> items) : QObject(&window), window_(window) {
+Binder::Binder(QWidget& form, std::vector<ScreenItem> items)
+    : QObject(&form), form_(form), window_(*form.window()) {
     match(std::move(items));
     for (Bound& bound : bound_) {
         for (QWidget* widget : bound.widgets) {
             watch(bound, *widget);
         }
     }
-    for (auto* bar : window_.findChildren<QTabBar*>()) {
+    for (auto* bar : form_.findChildren<QTabBar*>()) {
         bar->setFocusPolicy(Qt::StrongFocus);
         bar->installEventFilter(this);
     }
@@ -61,7 +62,7 @@ void Binder::match(std::vector<ScreenItem> items) {
     for (ScreenItem& item : items) {
         bound_.push_back({.item = std::move(item), .widgets = {}});
     }
-    for (QWidget* widget : window_.findChildren<QWidget*>()) {
+    for (QWidget* widget : form_.findChildren<QWidget*>()) {
         if (widget->isWindow() || is_part_of_the_toolkit(*widget) ||
             widget->objectName().startsWith("fixed_")) {
             continue;
@@ -87,7 +88,7 @@ void Binder::match(std::vector<ScreenItem> items) {
         }
     }
     if (!missing.empty()) {
-        throw std::logic_error(window_.objectName().toStdString() + ":" + missing);
+        throw std::logic_error(form_.objectName().toStdString() + ":" + missing);
     }
 }
 

@@ -41,7 +41,7 @@ struct ScreenItem {
     std::function<bool()> is_entered;  // false when a command has left the field, where that can be
 };
 
-/// Binds the widgets of one window to the logic by their names.
+/// Binds the widgets of one window, or of a form within one, to the logic by their names.
 ///
 /// A widget NAME or, for labels that share a text, several widgets NAME_1, NAME_2 and so on show the item NAME. Only
 /// what is drawn and never changes stands outside: names that begin with "fixed_".
@@ -51,7 +51,7 @@ struct ScreenItem {
 class Binder : public QObject {
   public:
     /// Throws std::logic_error that names every item without a widget and every widget without an item.
-    Binder(QWidget& window, std::vector<ScreenItem> items);
+    Binder(QWidget& form, std::vector<ScreenItem> items);
 
     /// Puts on the screen what differs from it; part of `show_all`.
     void show();
@@ -90,7 +90,8 @@ class Binder : public QObject {
     [[nodiscard]] Bound* bound_to(const QObject* widget);
     [[nodiscard]] Bound* named(const std::string& name);
 
-    QWidget& window_;
+    QWidget& form_;
+    QWidget& window_;  // that the form is or stands in
     std::vector<Bound> bound_;
     Bound* current_ = nullptr;  // the field that was entered and not yet left
     bool held_ = false;         // the logic says itself that it is in that field

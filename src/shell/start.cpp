@@ -25,7 +25,7 @@ namespace {
 struct Views {
     std::unique_ptr<Splash> splash;
     std::unique_ptr<MainView> main;
-    std::unique_ptr<DetailsView> details;
+    DetailsView* details = nullptr;  // the main window owns it
 };
 
 Views views;
@@ -53,7 +53,7 @@ void build_windows() {
     QApplication::setQuitOnLastWindowClosed(false);
     fill_the_tables();
     views.main = std::make_unique<MainView>();
-    views.details = std::make_unique<DetailsView>(views.main.get());
+    views.details = new DetailsView(views.main.get());
 }
 
 void destroy_windows() {

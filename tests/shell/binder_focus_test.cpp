@@ -13,9 +13,9 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing_support::activate;
-using testing_support::BoxRobot;
 using testing_support::click;
 using testing_support::press;
+using testing_support::Robot;
 using testing_support::settle;
 using testing_support::SmallForm;
 using testing_support::type;
@@ -104,7 +104,7 @@ TEST(Leaving, IsRefusedWhenTheLogicWantsTheFocusBack) {
 
 /// A form whose first field shows a box when it is left.
 struct TellingForm : SmallForm {
-    BoxRobot robot;
+    Robot robot;
 
     TellingForm() {
         attach_to_desktop();

@@ -2,11 +2,17 @@
 
 #include <deque>
 #include <functional>
-#include <ostream>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <QApplication>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -50,41 +56,99 @@ inline void type(QWidget& window, const std::string& text) {
     settle();
 }
 
-/// Answers message boxes by clicking their buttons, from its queue and then by the default button, and keeps what
-/// they showed.
-class BoxRobot {
+/// Chooses a command of a window's menu, with the mouse.
+inline void choose(QMainWindow& window, const char* menu_name, const char* command) {
+    auto* menu = window.menuBar()->findChild<QMenu*>(menu_name);
+    auto* action = window.findChild<QAction*>(command);
+    ASSERT_NE(menu, nullptr) << menu_name;
+    ASSERT_NE(action, nullptr) << command;
+    QTest::mouseClick(window.menuBar(), Qt::LeftButton, Qt::NoModifier,
+                      window.menuBar()->actionGeometry(menu->menuAction()).center());
+    ASSERT_TRUE(menu->isVisible()) << menu_name;
+    QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(action).center());
+    settle();
+}
+
+/// Serves what is modal while a command runs: answers message boxes by clicking their buttons, types into file dialogs,
+/// and works in modal windows. It keeps what the boxes showed.
+class Robot {
   public:
+    /// For the next boxes; after them the default button.
     std::deque<QMessageBox::StandardButton> answers;
     std::vector<platform::Box> boxes;
+    /// Names typed into the next file dialogs; nothing cancels.
+    std::deque<std::optional<std::string>> files;
+    std::vector<std::string> file_titles;
+    /// What to do in the next modal windows that are neither.
+    std::deque<std::function<void(QWidget&)>> in_window;
 
-    BoxRobot() {
-        QObject::connect(&timer_, &QTimer::timeout, [this] { look(); });
-        timer_.start(2);
+    Robot() { look_again(); }
+    ~Robot() {
+        EXPECT_TRUE(answers.empty() && files.empty() && in_window.empty()) << "something never came up";
     }
+    Robot(const Robot&) = delete;
+    Robot& operator=(const Robot&) = delete;
 
   private:
-    void look() {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (box == nullptr || !box->isVisible() || clicking_) {
-            return;
-        }
-        clicking_ = true;
-        boxes.push_back({.kind = kind(*box),
-                         .text = box->text().toStdString(),
-                         .title = box->windowTitle().toStdString()});
-        QAbstractButton* button = box->defaultButton();
-        if (!answers.empty()) {
-            button = box->button(answers.front());
-            answers.pop_front();
-        } else if (button == nullptr) {
-            button = box->button(QMessageBox::Ok);
-        }
-        ASSERT_NE(button, nullptr) << "no such button in the box \"" << box->text().toStdString() << '"';
-        QTest::mouseClick(button, Qt::LeftButton);
-        clicking_ = false;
+    /// One timer for each look: one that is being served does not fire in the event loop of a box.
+    void look_again() {
+        QTimer::singleShot(2, &life_, [this] {
+            look_again();
+            look();
+        });
     }
 
-    static platform::BoxKind kind(const QMessageBox& box) {
+    void look() {
+        QWidget* window = QApplication::activeModalWidget();
+        if (window == nullptr || !window->isVisible() || window == served_) {
+            return;
+        }
+        QWidget* outer = std::exchange(served_, window);
+        if (auto* box = qobject_cast<QMessageBox*>(window)) {
+            answer(*box);
+        } else if (auto* dialog = qobject_cast<QFileDialog*>(window)) {
+            choose_file(*dialog);
+        } else if (!in_window.empty()) {
+            const auto work = std::move(in_window.front());
+            in_window.pop_front();
+            work(*window);
+        }
+        served_ = outer;
+    }
+
+    void answer(QMessageBox& box) {
+        boxes.push_back({.kind = kind_of(box),
+                         .text = box.text().toStdString(),
+                         .title = box.windowTitle().toStdString()});
+        QAbstractButton* button = box.defaultButton();
+        if (!answers.empty()) {
+            button = box.button(answers.front());
+            answers.pop_front();
+        } else if (button == nullptr) {
+            button = box.button(QMessageBox::Ok);
+        }
+        ASSERT_NE(button, nullptr) << "no such button in the box \"" << box.text().toStdString() << '"';
+        QTest::mouseClick(button, Qt::LeftButton);
+    }
+
+    void choose_file(QFileDialog& dialog) {
+        file_titles.push_back(dialog.windowTitle().toStdString());
+        const auto name = files.empty() ? std::nullopt : files.front();
+        if (!files.empty()) {
+            files.pop_front();
+        }
+        auto* buttons = dialog.findChild<QDialogButtonBox*>("buttonBox");
+        if (!name) {
+            QTest::mouseClick(buttons->button(QDialogButtonBox::Cancel), Qt::LeftButton);
+            return;
+        }
+        dialog.findChild<QLineEdit*>("fileNameEdit")->setText(QString::fromStdString(*name));
+        const bool saving = dialog.acceptMode() == QFileDialog::AcceptSave;
+        QTest::mouseClick(buttons->button(saving ? QDialogButtonBox::Save : QDialogButtonBox::Open),
+                          Qt::LeftButton);
+    }
+
+    static platform::BoxKind kind_of(const QMessageBox& box) {
         const bool question = box.standardButtons() == (QMessageBox::Yes | QMessageBox::No);
         switch (box.icon()) {
             case QMessageBox::Information:
@@ -96,8 +160,8 @@ class BoxRobot {
         }
     }
 
-    QTimer timer_;
-    bool clicking_ = false;
+    QObject life_;
+    QWidget* served_ = nullptr;
 };
 
 }  // namespace gullymark::testing_support

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <memory>
+
+#include <QWidget>
+
+#include "shell/binder.h"
+
+namespace Ui {
+class frminletMDIC;
+}
+
+namespace gullymark::shell {
+
+/// The inlet design form `frminletMDIC` on the screen: four pages, every field with its unit beside it.
+class InletFormView : public QWidget {
+  public:
+    explicit InletFormView(QWidget* parent = nullptr);
+    ~InletFormView() override;
+
+    /// Binds the fields; once the form stands in its window.
+    void bind();
+    void move_focus_on() { binder_->move_on(); }
+
+  private:
+    void carry_out_wishes();
+
+    std::unique_ptr<Ui::frminletMDIC> ui_;
+    Binder* binder_ = nullptr;
+};
+
+}  // namespace gullymark::shell
