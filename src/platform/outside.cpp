@@ -22,6 +22,12 @@ void show_wait_pointer(bool waiting) {
     }
 }
 
+void keep_painting() {
+    if (outside.keep_painting) {
+        outside.keep_painting();
+    }
+}
+
 void beep() {
     if (outside.beep) {
         outside.beep();

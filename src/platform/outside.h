@@ -66,6 +66,7 @@ bool ask(const std::string& text, BoxKind kind = BoxKind::warning_question,
          const std::string& title = application_title);
 
 void show_wait_pointer(bool waiting);
+void keep_painting();
 void beep();
 [[nodiscard]] std::chrono::year_month_day today();
 

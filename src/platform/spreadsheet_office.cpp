@@ -25,6 +25,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using Fields = std::vector<std::string>;
 
+constexpr std::chrono::seconds patience_with_helpers{5};
 constexpr std::chrono::seconds patience_beyond_limit{2};  // the small program keeps the limit itself
 constexpr int pause_between_paints = 20;                  // milliseconds
 
@@ -48,7 +49,6 @@ void hang_up() {
         talk.connection = -1;
     }
     talk.heard.clear();
-    std::erase_if(talk.helpers, [](pid_t helper) { return waitpid(helper, nullptr, WNOHANG) != 0; });
 }
 
 Talk::~Talk() {
@@ -73,8 +73,25 @@ pid_t spawn(const std::string& program, int connection) {
     return error == 0 ? spawned : -1;
 }
 
+// An earlier helper may be ending the office that the next one would talk to. Waits for it, but not for one that
+// waits for the office itself.
+void let_helpers_end() {
+    const Clock::time_point until = Clock::now() + patience_with_helpers;
+    std::erase_if(talk.helpers, [&](pid_t helper) {
+        while (waitpid(helper, nullptr, WNOHANG) == 0) {
+            if (Clock::now() > until) {
+                return false;
+            }
+            poll(nullptr, 0, pause_between_paints);
+            keep_painting();
+        }
+        return true;
+    });
+}
+
 void start_talk() {
     hang_up();
+    let_helpers_end();
     if (!file_exists(talk.settings.program)) {
         throw Failure("No spreadsheet program can be reached.");
     }
@@ -105,9 +122,7 @@ void wait_for(short event, Clock::time_point due) {
         if (Clock::now() > due) {
             break_off("The spreadsheet program does not answer.");
         }
-        if (outside.keep_painting) {
-            outside.keep_painting();
-        }
+        keep_painting();
     }
 }
 

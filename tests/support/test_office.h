@@ -2,14 +2,12 @@
 
 #include <unistd.h>
 
-#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <functional>
-#include <iterator>
 #include <stdexcept>
 #include <string>
 #include <thread>
@@ -53,15 +51,17 @@ class TestOffice {
         return settings;
     }
 
-    /// Makes the .xls workbook `name` from a Flat ODS file and gives its path.
-    [[nodiscard]] std::string convert(const std::string& source) const {
-        const std::string command = "TZ=UTC LC_ALL=C.UTF-8 soffice -env:UserInstallation=file://" +
-                                    path("profile") + " --headless --convert-to xls --outdir " +
-                                    folder_.string() + " " + source + " >/dev/null 2>&1";
-        if (std::system(command.c_str()) != 0) {
-            throw std::runtime_error("the office cannot convert " + source);
+    /// Makes .xls workbooks of the same names from Flat ODS files; they lie where `path` tells.
+    void convert(const std::vector<std::string>& sources) const {
+        std::string command = "TZ=UTC LC_ALL=C.UTF-8 soffice -env:UserInstallation=file://" +
+                              path("profile") + " --headless --convert-to xls --outdir " + folder_.string();
+        for (const std::string& source : sources) {
+            command += " " + source;
         }
-        return path(std::filesystem::path(source).stem().string() + ".xls");
+        command += " >/dev/null 2>&1";
+        if (std::system(command.c_str()) != 0) {
+            throw std::runtime_error("the office cannot convert workbooks");
+        }
     }
 
     /// The processes of this office.
@@ -73,7 +73,8 @@ class TestOffice {
                 continue;
             }
             std::ifstream file(entry.path() / "cmdline");
-            const std::string command{std::istreambuf_iterator<char>(file), {}};
+            std::string command;
+            std::getline(file, command);  // a process that has just ended makes it fail, and is none of them
             if (command.find("UserInstallation=file://" + path("profile")) != std::string::npos) {
                 found.push_back(std::stoi(name));
             }

@@ -6,7 +6,6 @@
 #include <com/sun/star/uno/Exception.hpp>
 #include <csignal>
 #include <iostream>
-#include <optional>
 #include <thread>
 
 #include "platform/failure.h"
@@ -28,7 +27,7 @@ constexpr auto limit_of_lingering = 5min;
 
 struct Bridge {
     office::Office office;
-    std::optional<office::Workbook> workbook;
+    office::Workbook workbook;
     platform::SheetContent held;   // what the opened sheet has
     platform::SheetContent asked;  // what shall be written
     std::chrono::milliseconds limit = 30s;
@@ -58,9 +57,7 @@ office::Answers& answers() {
 [[noreturn]] void leave(int code) {
     answers().promise(limit_of_end);
     try {
-        if (bridge().workbook) {
-            office::close_workbook(*bridge().workbook);
-        }
+        office::close_workbook(bridge().workbook);
     } catch (const com::sun::star::uno::Exception&) {
         // It has gone with its office.
     }
@@ -82,10 +79,10 @@ const std::string& field(const Fields& fields, std::size_t at) {
 }
 
 office::Workbook& workbook() {
-    if (!bridge().workbook) {
+    if (!bridge().workbook.sheet.is()) {
         throw platform::Failure("No workbook is open.");
     }
-    return *bridge().workbook;
+    return bridge().workbook;
 }
 
 void open(const Fields& fields) {
@@ -96,8 +93,8 @@ void open(const Fields& fields) {
     }
     const bool first = field(fields, 2) == "first";
     office::connect_office(bridge().office);
-    bridge().workbook = office::open_workbook(
-        bridge().office, path, first ? platform::SheetChoice::first : platform::SheetChoice::active);
+    const auto choice = first ? platform::SheetChoice::first : platform::SheetChoice::active;
+    office::open_workbook(bridge().office, path, choice, bridge().workbook);
     bridge().held = office::read_content(workbook());
     answer(platform::content_lines(bridge().held) + platform::join_line({"opened"}));
 }

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <com/sun/star/awt/XWindow2.hpp>
 #include <com/sun/star/bridge/UnoUrlResolver.hpp>
 #include <com/sun/star/connection/NoConnectException.hpp>
 #include <com/sun/star/frame/Desktop.hpp>
@@ -30,7 +31,10 @@ namespace frame = com::sun::star::frame;
 using namespace std::chrono_literals;
 
 constexpr const char* program_folder = GULLYMARK_OFFICE_PROGRAM_FOLDER;
+using Clock = std::chrono::steady_clock;
 constexpr auto pause_between_tries = 20ms;
+// The office that took a request over may have been about to end.
+constexpr auto pause_between_starts = 4s;
 constexpr auto patience_at_end = 5s;
 
 std::string pipe_name(const OfficeChoice& choice) {
@@ -93,23 +97,22 @@ pid_t start_office(const OfficeChoice& choice) {
     return started;
 }
 
-enum class Started { runs, handed_over, failed };
-
 // An office that finds another one of this user hands its request over to it and ends well.
-Started state_of(pid_t started) {
+bool has_ended(pid_t started) {
     int status = 0;
-    const pid_t ended = waitpid(started, &status, WNOHANG);
-    if (ended == 0) {
-        return Started::runs;
+    if (waitpid(started, &status, WNOHANG) == 0) {
+        return false;
     }
-    return ended == started && WIFEXITED(status) && WEXITSTATUS(status) == 0 ? Started::handed_over
-                                                                             : Started::failed;
+    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) {
+        throw platform::Failure("The spreadsheet program ended while it started.");
+    }
+    return true;
 }
 
 bool waited_for_end(pid_t started) {
-    const auto until = std::chrono::steady_clock::now() + patience_at_end;
-    while (std::chrono::steady_clock::now() < until) {
-        if (state_of(started) != Started::runs) {
+    const auto until = Clock::now() + patience_at_end;
+    while (Clock::now() < until) {
+        if (waitpid(started, nullptr, WNOHANG) != 0) {
             return true;
         }
         std::this_thread::sleep_for(pause_between_tries);
@@ -117,8 +120,16 @@ bool waited_for_end(pid_t started) {
     return false;
 }
 
-bool shows_nothing(const Office& office) {
-    return office.desktop.is() && office.desktop->getFrames()->getCount() == 0;
+bool shows_a_window(const Office& office) {
+    const auto frames = office.desktop->getFrames();
+    for (sal_Int32 at = 0; at < frames->getCount(); ++at) {
+        const uno::Reference<frame::XFrame> one(frames->getByIndex(at), uno::UNO_QUERY_THROW);
+        const uno::Reference<com::sun::star::awt::XWindow2> window(one->getContainerWindow(), uno::UNO_QUERY);
+        if (window.is() && window->isVisible()) {
+            return true;
+        }
+    }
+    return false;
 }
 
 }  // namespace
@@ -135,27 +146,22 @@ void connect_office(Office& office) {
     const auto resolver = com::sun::star::bridge::UnoUrlResolver::create(local);
     const rtl::OUString address =
         text_of("uno:pipe,name=" + pipe_name(office.choice) + ";urp;StarOffice.ComponentContext");
-    bool asked_to_start = false;
-    for (;;) {
+    for (auto start_again = Clock::now();; std::this_thread::sleep_for(pause_between_tries)) {
         check_owner_of_pipe(office.choice);
         try {
             office.context.set(resolver->resolve(address), uno::UNO_QUERY_THROW);
             office.desktop = frame::Desktop::create(office.context);
             return;
         } catch (const com::sun::star::connection::NoConnectException&) {
-            if (!asked_to_start) {
-                office.started = start_office(office.choice);
-                asked_to_start = true;
-            }
+            // None runs, or it does not listen yet.
         }
-        const Started state = office.started == 0 ? Started::handed_over : state_of(office.started);
-        if (state != Started::runs) {
+        if (office.started != 0 && has_ended(office.started)) {
             office.started = 0;
         }
-        if (state == Started::failed) {
-            throw platform::Failure("The spreadsheet program ended while it started.");
+        if (office.started == 0 && Clock::now() >= start_again) {
+            office.started = start_office(office.choice);
+            start_again = Clock::now() + pause_between_starts;
         }
-        std::this_thread::sleep_for(pause_between_tries);
     }
 }
 
@@ -164,7 +170,7 @@ void end_office(Office& office) {
         return;
     }
     try {
-        if (office.desktop.is() && !shows_nothing(office)) {
+        if (office.desktop.is() && shows_a_window(office)) {
             office.started = 0;
             return;
         }

@@ -165,6 +165,23 @@ std::vector<CellRange> text_cells(const Workbook& workbook) {
     return ranges;
 }
 
+Reference<star::frame::XModel> load(const Office& office, const std::string& path, bool as_template) {
+    const auto how = properties({
+        property("Hidden", true),
+        property("AsTemplate", as_template),
+        property("FilterName", text_of("MS Excel 97")),  // else the extension decides what it is
+        property("OnMainThread", true),
+        property("MacroExecutionMode", star::document::MacroExecMode::NEVER_EXECUTE),
+        property("UpdateDocMode", star::document::UpdateDocMode::NO_UPDATE),
+    });
+    const Reference<star::frame::XModel> model(
+        office.desktop->loadComponentFromURL(file_url(path), "_blank", 0, how), star::uno::UNO_QUERY);
+    if (!model.is()) {
+        throw platform::Failure("The spreadsheet program cannot open " + path + ".");
+    }
+    return model;
+}
+
 // Called back by the office on its own main thread; from any other, showing a window may wait for ever.
 class ShowWindow : public cppu::WeakImplHelper1<star::awt::XCallback> {
   public:
@@ -199,28 +216,22 @@ Reference<star::sheet::XSpreadsheetView> view_of(const Workbook& workbook) {
 
 }  // namespace
 
-Workbook open_workbook(const Office& office, const std::string& path, platform::SheetChoice choice) {
-    const auto how = properties({
-        property("Hidden", true),
-        property("FilterName", text_of("MS Excel 97")),  // else the extension decides what it is
-        property("OnMainThread", true),
-        property("MacroExecutionMode", star::document::MacroExecMode::NEVER_EXECUTE),
-        property("UpdateDocMode", star::document::UpdateDocMode::NO_UPDATE),
-    });
-    Workbook workbook;
-    workbook.model.set(office.desktop->loadComponentFromURL(file_url(path), "_blank", 0, how),
-                       star::uno::UNO_QUERY);
-    if (!workbook.model.is()) {
-        throw platform::Failure("The spreadsheet program cannot open " + path + ".");
+void open_workbook(const Office& office, const std::string& path, platform::SheetChoice choice,
+                   Workbook& workbook) {
+    workbook.model = load(office, path, false);
+    // One that cannot be saved under its name (no permission, someone else has it open) could not be filled either.
+    if (Reference<star::frame::XStorable>(workbook.model, UNO_QUERY_THROW)->isReadonly()) {
+        close_workbook(workbook);
+        workbook.model = load(office, path, true);
     }
     if (choice == platform::SheetChoice::active) {
+        // As long as it is unseen, a workbook of several sheets is at its first, whichever it was saved at.
         workbook.sheet = view_of(workbook)->getActiveSheet();
     } else {
         const Reference<star::sheet::XSpreadsheetDocument> document(workbook.model, UNO_QUERY_THROW);
         const Reference<star::container::XIndexAccess> sheets(document->getSheets(), UNO_QUERY_THROW);
         workbook.sheet.set(sheets->getByIndex(0), UNO_QUERY_THROW);
     }
-    return workbook;
 }
 
 platform::SheetContent read_content(const Workbook& workbook) {
@@ -257,9 +268,11 @@ void save_copy(const Workbook& workbook, const std::string& path) {
 }
 
 void close_workbook(Workbook& workbook) {
-    const Reference<star::util::XCloseable> closeable(workbook.model, UNO_QUERY_THROW);
+    const Reference<star::util::XCloseable> closeable(workbook.model, star::uno::UNO_QUERY);
     workbook = {};
-    closeable->close(true);
+    if (closeable.is()) {
+        closeable->close(true);
+    }
 }
 
 }  // namespace gullymark::office

@@ -16,8 +16,11 @@ struct Workbook {
     com::sun::star::uno::Reference<com::sun::star::sheet::XSpreadsheet> sheet;
 };
 
-/// Opens an .xls workbook, whatever its extension, unseen, without macros and without a look at links.
-Workbook open_workbook(const Office& office, const std::string& path, platform::SheetChoice choice);
+/// Opens an .xls workbook, whatever its extension, unseen, without macros and without a look at links. One that can
+/// only be read becomes a new workbook with the same content, so that it can be filled. After an exception `workbook`
+/// may be open.
+void open_workbook(const Office& office, const std::string& path, platform::SheetChoice choice,
+                   Workbook& workbook);
 
 /// The cells of the sheet that are not empty, a formula with its result, and the cells formatted as text.
 platform::SheetContent read_content(const Workbook& workbook);
@@ -32,7 +35,7 @@ void show_workbook(const Office& office, const Workbook& workbook);
 /// Saves it as .xls under another path, still open and unsaved under its own.
 void save_copy(const Workbook& workbook, const std::string& path);
 
-/// Closes it without a question.
+/// Closes it without a question. One that is not open stays so.
 void close_workbook(Workbook& workbook);
 
 }  // namespace gullymark::office

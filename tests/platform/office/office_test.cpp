@@ -10,8 +10,6 @@
 namespace gullymark::platform {
 namespace {
 
-using testing::ElementsAre;
-using testing::Field;
 using testing_support::TestOffice;
 using namespace std::chrono_literals;
 
@@ -23,14 +21,15 @@ class RealOffice : public testing::Test {
   protected:
     static void SetUpTestSuite() {
         office = std::make_unique<TestOffice>(GULLYMARK_OFFICE);
-        source = office->convert(GULLYMARK_TEST_DIR "/platform/office/template.fods");
+        office->convert({GULLYMARK_TEST_DIR "/platform/office/template.fods",
+                         GULLYMARK_TEST_DIR "/platform/office/two_sheets.fods"});
     }
     static void TearDownTestSuite() { office.reset(); }
 
     void SetUp() override {
         target = office->path("target.xlr");
         saved = office->path("saved.xls");
-        copy_file(source, target);
+        copy_file(office->path("template.xls"), target);
         use_office(office->settings(saved));
     }
     void TearDown() override {
@@ -46,13 +45,11 @@ class RealOffice : public testing::Test {
     }
 
     static std::unique_ptr<TestOffice> office;
-    static std::string source;
     std::string target;
     std::string saved;
 };
 
 std::unique_ptr<TestOffice> RealOffice::office;
-std::string RealOffice::source;
 
 bool is_text_cell(const SheetContent& content, CellPosition cell) {
     return std::ranges::any_of(content.text_cells, [&](const CellRange& range) {
@@ -75,6 +72,15 @@ TEST_F(RealOffice, TheSheetTellsWhatItHoldsAndWhichCellsAreTexts) {
     EXPECT_TRUE(is_text_cell(content, {20, text_column}));
     EXPECT_FALSE(is_text_cell(content, {20, number_column}));
     EXPECT_FALSE(is_text_cell(content, {20, general_column}));
+}
+
+TEST_F(RealOffice, TheFirstOfTwoSheetsIsFilledUnlessAnotherIsActive) {
+    copy_file(office->path("two_sheets.xls"), target);
+    for (const SheetChoice choice : {SheetChoice::first, SheetChoice::active}) {
+        const SheetContent content = saved_after({{{1, 2}, 2.0}}, choice);
+        EXPECT_EQ(content.cells.at({1, 1}), CellValue("first sheet"));
+        EXPECT_EQ(content.cells.at({1, 2}), CellValue(2.0));
+    }
 }
 
 TEST_F(RealOffice, EveryKindOfCellComesBackAsItWasWritten) {
@@ -163,7 +169,7 @@ TEST_F(RealOffice, AWorkbookThatIsOpenAlreadyIsOpenedOnceMore) {
     use_office(left_open);
     static_cast<void>(spreadsheet.open(target, SheetChoice::first));
     spreadsheet.hand_over(target, SheetChoice::first, {{{6, 3}, "first"}});
-    copy_file(source, target);
+    copy_file(office->path("template.xls"), target);
     use_office(office->settings(saved));
     EXPECT_EQ(saved_after({{{7, 3}, "second"}}).cells.at({7, 3}), CellValue("second"));
     office->end();
