@@ -111,6 +111,7 @@ void Binder::watch(Bound& bound, QWidget& widget) {
         connect(button, &QAbstractButton::clicked, this, [&item] { handle(item.clicked); });
     }
     if (auto* tabs = qobject_cast<QTabWidget*>(&widget)) {
+        tabs_ = tabs;
         connect(tabs, &QTabWidget::currentChanged, this, [&item](int page) {
             if (item.turned) {
                 handle([&] { item.turned(page); });

@@ -14,6 +14,7 @@
 class QKeyEvent;
 class QLineEdit;
 class QMouseEvent;
+class QTabWidget;
 
 namespace gullymark::shell {
 
@@ -80,6 +81,9 @@ class Binder : public QObject {
     void watch_list(const ScreenItem& item, QWidget& widget);
 
     bool filter_press(const QMouseEvent& press);
+    bool filter_key(const QKeyEvent& press);
+    /// The page that a key turns to: the letter marked on its tab with Alt, or Ctrl and a page key; -1 for none.
+    [[nodiscard]] int page_of(const QKeyEvent& press) const;
     void list_opened(const QWidget& popup);
     void focus_came(QWidget* widget);
     void enter_where_focus_is();
@@ -93,9 +97,10 @@ class Binder : public QObject {
     QWidget& form_;
     QWidget& window_;  // that the form is or stands in
     std::vector<Bound> bound_;
-    Bound* current_ = nullptr;  // the field that was entered and not yet left
-    bool held_ = false;         // the logic says itself that it is in that field
-    Bound* wanted_ = nullptr;   // the field that the logic wants the focus in
+    QTabWidget* tabs_ = nullptr;  // the pages of the form, where it has any
+    Bound* current_ = nullptr;    // the field that was entered and not yet left
+    bool held_ = false;           // the logic says itself that it is in that field
+    Bound* wanted_ = nullptr;     // the field that the logic wants the focus in
     bool select_wanted_ = false;
     bool leaving_ = false;
 };

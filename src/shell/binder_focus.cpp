@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QWindow>
 
 #include "shell/binder.h"
@@ -15,11 +16,9 @@
 namespace gullymark::shell {
 namespace {
 
-/// The keys that move the focus or turn the page by themselves.
+/// The keys that move the focus.
 bool moves_on(const QKeyEvent& press) {
-    const bool pages = press.key() == Qt::Key_PageUp || press.key() == Qt::Key_PageDown;
-    return press.key() == Qt::Key_Tab || press.key() == Qt::Key_Backtab ||
-           (pages && press.modifiers().testFlag(Qt::ControlModifier));
+    return press.key() == Qt::Key_Tab || press.key() == Qt::Key_Backtab;
 }
 
 /// Where a press on `widget` puts the focus; null when it stays.
@@ -71,9 +70,16 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
         if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
             return filter_press(static_cast<const QMouseEvent&>(*event));
         }
-        const bool moving =
-            event->type() == QEvent::KeyPress && moves_on(static_cast<const QKeyEvent&>(*event));
-        return moving && !leave_field();
+        if (event->type() == QEvent::KeyPress) {
+            return filter_key(static_cast<const QKeyEvent&>(*event));
+        }
+        // A letter that turns the page comes as a key, so that the field is left first.
+        if (event->type() == QEvent::ShortcutOverride &&
+            page_of(static_cast<const QKeyEvent&>(*event)) >= 0) {
+            event->accept();
+            return true;
+        }
+        return false;
     }
     auto* widget = qobject_cast<QWidget*>(watched);
     if (widget == nullptr) {
@@ -91,6 +97,34 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
     const QLineEdit* line = line_of(*widget);
     return event->type() == QEvent::KeyPress && bound != nullptr && bound->item.filter && line != nullptr &&
            !takes_key(bound->item.filter, static_cast<const QKeyEvent&>(*event), *line);
+}
+
+int Binder::page_of(const QKeyEvent& press) const {
+    if (tabs_ == nullptr) {
+        return -1;
+    }
+    const int step = press.key() == Qt::Key_PageDown ? 1 : press.key() == Qt::Key_PageUp ? -1 : 0;
+    if (step != 0 && press.modifiers() == Qt::ControlModifier) {
+        return std::clamp(tabs_->currentIndex() + step, 0, tabs_->count() - 1);
+    }
+    const QKeySequence keys(press.keyCombination());
+    for (int page = 0; page < tabs_->count(); ++page) {
+        if (QKeySequence::mnemonic(tabs_->tabText(page)) == keys) {
+            return page;
+        }
+    }
+    return -1;
+}
+
+bool Binder::filter_key(const QKeyEvent& press) {
+    const int page = page_of(press);
+    if (page < 0) {
+        return moves_on(press) && !leave_field();
+    }
+    if (leave_field()) {
+        tabs_->setCurrentIndex(page);
+    }
+    return true;
 }
 
 /// `popup` is the window in which a list drops down.

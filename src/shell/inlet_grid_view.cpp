@@ -4,72 +4,34 @@
 
 #include "editor/inlet_grid.h"
 #include "editor/workspace.h"
+#include "shell/rows_model.h"
 #include "shell/turn.h"
 
 namespace gullymark::shell {
 
 using editor::frmgrid;
 
-/// The rows below the heading, straight from the workspace's data source.
-class InletGridView::Rows : public QAbstractTableModel {
-  public:
-    using QAbstractTableModel::QAbstractTableModel;
-
-    int rowCount(const QModelIndex& parent = {}) const override {
-        return parent.isValid() || !frmgrid.loaded ? 0 : editor::MDIInlet.Adodc1.record_count();
-    }
-
-    int columnCount(const QModelIndex& parent = {}) const override {
-        return parent.isValid() ? 0 : static_cast<int>(editor::grid_headings.size());
-    }
-
-    QVariant data(const QModelIndex& index, int role) const override {
-        if (role != Qt::DisplayRole) {
-            return {};
-        }
-        return QString::fromStdString(
-            editor::grid_cell(index.row() + 1, static_cast<std::size_t>(index.column())));
-    }
-
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
-        if (role != Qt::DisplayRole || orientation != Qt::Horizontal) {
-            return QAbstractTableModel::headerData(section, orientation, role);
-        }
-        const auto heading = editor::grid_headings.at(static_cast<std::size_t>(section));
-        return QString::fromUtf8(heading.data(), static_cast<qsizetype>(heading.size()));
-    }
-
-    void read_anew() {
-        beginResetModel();
-        endResetModel();
-    }
-};
-
-InletGridView::InletGridView(QWidget* parent) : QTableView(parent), rows_(new Rows(this)) {
+InletGridView::InletGridView(QWidget* parent)
+    : QTableView(parent),
+      rows_(new RowsModel(
+          this, {.headings = {editor::grid_headings.begin(), editor::grid_headings.end()},
+                 .count = [] { return frmgrid.loaded ? editor::MDIInlet.Adodc1.record_count() : 0; },
+                 .cell = editor::grid_cell})) {
     setObjectName("flexgrid");
-    setModel(rows_);
-    setSelectionBehavior(SelectRows);
-    setSelectionMode(SingleSelection);
-    setTabKeyNavigation(false);
-    setWordWrap(false);
-    verticalHeader()->hide();
-    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    setAccessibleName("Inlets of the project");
+    set_up_rows(*this, *rows_);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    horizontalHeader()->setHighlightSections(false);
     add_view([this] { show_state(); });
 }
 
 void InletGridView::show_state() {
     setEnabled(frmgrid.enabled);
-    if (shown_loads_ != frmgrid.loads) {
+    const int count = frmgrid.loaded ? editor::MDIInlet.Adodc1.record_count() : 0;
+    if (shown_loads_ != frmgrid.loads || rows_->rowCount({}) != count) {
         shown_loads_ = frmgrid.loads;
-        rows_->read_anew();
+        rows_->renew();
     }
-    if (currentIndex().row() + 1 != frmgrid.row) {
-        const QModelIndex row = rows_->index(frmgrid.row - 1, 0);
-        setCurrentIndex(row);
-        scrollTo(row);
-    }
+    mark_row(*this, frmgrid.row);
 }
 
 void InletGridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

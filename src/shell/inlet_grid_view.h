@@ -1,11 +1,12 @@
 #pragma once
 
-#include <QAbstractTableModel>
 #include <QTableView>
 
 namespace gullymark::shell {
 
-/// The inlet grid `frmgrid` on the screen. A row is read when it is looked at.
+class RowsModel;
+
+/// The inlet grid `frmgrid` on the screen.
 class InletGridView : public QTableView {
   public:
     explicit InletGridView(QWidget* parent = nullptr);
@@ -14,11 +15,9 @@ class InletGridView : public QTableView {
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
   private:
-    class Rows;
-
     void show_state();
 
-    Rows* rows_;
+    RowsModel* rows_;
     int shown_loads_ = -1;
 };
 

@@ -5,13 +5,21 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QPalette>
 
+#include "editor/life_cycle.h"
+#include "editor/windows.h"
+#include "editor/workspace.h"
 #include "shell/about_box.h"
 #include "shell/desktop.h"
 #include "shell/details_view.h"
+#include "shell/list_view.h"
 #include "shell/main_view.h"
+#include "shell/record_view.h"
+#include "shell/renumber_view.h"
 #include "shell/splash.h"
 #include "shell/turn.h"
+#include "shell/workspace_view.h"
 #include "store/windows.h"
 
 /// The toolkit's macro works outside of every namespace only.
@@ -26,6 +34,10 @@ struct Views {
     std::unique_ptr<Splash> splash;
     std::unique_ptr<MainView> main;
     DetailsView* details = nullptr;  // the main window owns it
+    std::unique_ptr<WorkspaceView> workspace;
+    std::unique_ptr<ListView> list;
+    std::unique_ptr<RecordView> record;
+    RenumberView* renumber = nullptr;  // the workspace owns it
 };
 
 Views views;
@@ -42,7 +54,20 @@ void fill_the_tables() {
     store::windows.run_details_form = [] { views.details->run(); };
     store::windows.move_details_focus_on = [] { views.details->move_focus_on(); };
     store::windows.show_about_box = run_about_box;
+    store::windows.show_workspace = editor::show_workspace;
+    store::windows.unload_inlet_editor = editor::unload_inlet_editor;
+    editor::windows.move_focus_on = [] { views.workspace->move_focus_on(); };
+    editor::windows.run_renumber_dialog = [] { views.renumber->run(); };
     store::windows.end_program = [] { std::_Exit(EXIT_SUCCESS); };
+}
+
+/// What cannot be changed is still to be read: most of the form in "VIEW", and the results in every mode.
+void darken_disabled_texts() {
+    QPalette palette = QApplication::palette();
+    const QColor text(80, 80, 80);
+    palette.setColor(QPalette::Disabled, QPalette::Text, text);
+    palette.setColor(QPalette::Disabled, QPalette::WindowText, text);
+    QApplication::setPalette(palette);
 }
 
 }  // namespace
@@ -51,9 +76,14 @@ void build_windows() {
     load_resources();
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/application.svg")));
     QApplication::setQuitOnLastWindowClosed(false);
+    darken_disabled_texts();
     fill_the_tables();
     views.main = std::make_unique<MainView>();
     views.details = new DetailsView(views.main.get());
+    views.workspace = std::make_unique<WorkspaceView>();
+    views.list = std::make_unique<ListView>();
+    views.record = std::make_unique<RecordView>();
+    views.renumber = new RenumberView(views.workspace.get());
 }
 
 void destroy_windows() {

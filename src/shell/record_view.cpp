@@ -1,0 +1,44 @@
+#include "shell/record_view.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+
+#include "editor/inlet_view.h"
+#include "shell/inlet_items.h"
+#include "shell/turn.h"
+#include "ui_inlet_form_view.h"
+
+namespace gullymark::shell {
+
+using editor::frmviewinlet;
+
+RecordView::RecordView() : form_(new Ui::frminletMDIC) {
+    form_->setupUi(this);
+    setObjectName("frmviewinlet");
+    new Binder(*this, record_view_items());  // owned by the window
+    add_view([this] { show_state(); });
+}
+
+RecordView::~RecordView() = default;
+
+void RecordView::show_state() {
+    setWindowTitle(QString::fromStdString(frmviewinlet.caption));
+    if (isVisible() != frmviewinlet.visible) {
+        setVisible(frmviewinlet.visible);
+    }
+}
+
+void RecordView::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    handle(editor::unload_inlet_view);
+}
+
+void RecordView::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Cancel) || event->matches(QKeySequence::Close)) {
+        close();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+}  // namespace gullymark::shell
