@@ -23,11 +23,6 @@ class CurbOnGrade : public EngineTest {
               {Column::INLETLENGTH, "10.250"},
               {Column::GRATEPERCLOG, "0"}});
     }
-
-    static const std::string& solved(Column column) {
-        cmdsolve_Click();
-        return open_inlet.text(column);
-    }
 };
 
 TEST_F(CurbOnGrade, ABlankInletSlopeTakesThatOfTheGutterSoThatNothingIsDepressed) {

@@ -53,6 +53,28 @@ class EngineTest : public testing::Test {
         }
     }
 
+    /// Solves the open inlet as it stands; the text of a column then.
+    static const std::string& solved(Column column) {
+        cmdsolve_Click();
+        return open_inlet.text(column);
+    }
+
+    /// Solves the open inlet as it stands; the value of a quantity of the solver's sheet at its end, with all
+    /// digits.
+    static double solved(std::string_view symbol) {
+        std::vector<TraceLine> trace;
+        onlooker.trace = &trace;
+        cmdsolve_Click();
+        onlooker.trace = nullptr;
+        double value = 0.0;
+        for (const auto& line : trace) {
+            value = line.symbol == symbol ? line.number : value;
+        }
+        return value;
+    }
+
+    static const std::string& text(Column column) { return open_inlet.text(column); }
+
     std::vector<platform::Box> boxes;
 };
 
