@@ -34,6 +34,11 @@ void cboClog_Click();
 /// The sign of `offset` follows the side: negative on the left.
 void ApplyOffsetSign();
 
+// Commands.
+/// Opens the table of standards of the inlet's type and location; a kind without one disables the command instead.
+/// Before a ditch table `cboClog` starts anew.
+void inletstd_help_Click();
+
 // Opening a list.
 void cboClog_DropDown();
 void FillClogList();

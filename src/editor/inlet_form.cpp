@@ -37,6 +37,7 @@ constexpr auto own_handlers = std::to_array<OwnHandlers>({
      .got_focus = inlet_location_GotFocus,
      .click = inlet_location_Click,
      .lost_focus = inlet_location_LostFocus},
+    {.field = inletstd_help, .click = inletstd_help_Click},
     {.field = inlet_subtype, .got_focus = inlet_subtype_GotFocus, .lost_focus = inlet_subtype_LostFocus},
     {.field = offset, .validate = offset_Validate, .lost_focus = offset_LostFocus},
     {.field = offset_location, .click = ApplyOffsetSign},

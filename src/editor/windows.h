@@ -2,6 +2,10 @@
 
 #include <functional>
 
+namespace gullymark::catalogue {
+struct Table;
+}
+
 /// What the inlet workspace asks of the windows, as one table of functions. The shell fills it once at start; a test
 /// puts in functions of its own. A function that nobody has set does nothing.
 ///
@@ -15,6 +19,9 @@ struct Windows {
     std::function<void()> move_focus_on;
     /// Shows `frminletmodify`, modal, and waits until its `visible` is false.
     std::function<void()> run_renumber_dialog;
+    /// Shows a table of standards, modal, and waits until it is closed. A row that the user picks is then in the open
+    /// inlet.
+    std::function<void(const catalogue::Table&)> show_standards;
     /// Writes the Inlet Report of the current inlet, the Inlet Design Form of all inlets.
     std::function<void()> inlet_report;
     std::function<void()> InletDesignForm;
