@@ -11,7 +11,7 @@ void load_row(const platform::RowSet& rows, InletRecord& record) {
         record.load(column, std::nullopt);
     }
     record.begin_new_changes();
-    if (rows.at_beginning() || rows.at_end()) {
+    if (!rows.is_open() || rows.at_beginning() || rows.at_end()) {
         return;
     }
     platform::Row values = rows.row();

@@ -61,7 +61,12 @@ bool refuses_to_close(int reason) {
 
 void get_all_projectrecords() {
     get_inlet_records("");
-    attach_inlet_datasource();
+    try {
+        attach_inlet_datasource();
+    } catch (const platform::Failure& failure) {
+        // A damaged row: the workspace opens without it.
+        platform::tell(failure.what());
+    }
     get_discharge_carryover("newquery");
 }
 
@@ -80,12 +85,7 @@ void get_inlet_records(const std::string& key) {
 }
 
 void attach_inlet_datasource() {
-    auto& rows = frminletMDIC.adoInletRS;
-    if (rows.is_open()) {
-        load_row(rows, engine::open_inlet);
-    } else {
-        load_row(platform::RowSet(), engine::open_inlet);
-    }
+    load_row(frminletMDIC.adoInletRS, engine::open_inlet);
 }
 
 void adoInletRS_WillChangeRecord(int reason) {
