@@ -7,19 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "editor/inlet_form.h"
-#include "editor/inlet_grid.h"
-#include "editor/inlet_list.h"
-#include "editor/inlet_view.h"
-#include "editor/life_cycle.h"
-#include "editor/renumber_dialog.h"
-#include "editor/windows.h"
-#include "editor/workspace.h"
-#include "engine/solve.h"
-#include "engine/unit_constants.h"
+#include "editor/fresh_start.h"
 #include "platform/outside.h"
-#include "store/project_session.h"
-#include "store/project_store.h"
 #include "support/outside_double.h"
 #include "support/project_file.h"
 
@@ -40,7 +29,7 @@ class EditorTest : public testing::Test {
     std::string path = folder.path("road.gmk");
 
     explicit EditorTest(const std::string& units = "ENGLISH") {
-        forget_everything();
+        testing_support::forget_everything();
         testing_support::make_project_file(path);
         store::session.projectFilePath = path;
         store::session.projectId = "P-1";
@@ -50,23 +39,7 @@ class EditorTest : public testing::Test {
         store::session.projectUnits = units;
         store::project_store.connection.open(path);
     }
-    ~EditorTest() override { forget_everything(); }
-
-    static void forget_everything() {
-        unload_inlet_editor();
-        unload_inlet_grid();
-        unload_inlet_list();
-        frmviewinlet = {};
-        frminletmodify = {};
-        MDIInlet = {};
-        windows = {};
-        engine::unit_constants = {};
-        engine::UnitSystem.clear();
-        engine::DataSolved = false;
-        store::project_store = {};
-        store::frmsoftwaremain = {};
-        store::session = {};
-    }
+    ~EditorTest() override { testing_support::forget_everything(); }
 
     /// Rows of INLET with these columns, past the program.
     void put_inlets(const std::vector<std::map<std::string, std::string>>& rows) const {
