@@ -18,6 +18,7 @@
 #include "shell/record_view.h"
 #include "shell/renumber_view.h"
 #include "shell/splash.h"
+#include "shell/standards_window.h"
 #include "shell/turn.h"
 #include "shell/workspace_view.h"
 #include "store/windows.h"
@@ -58,6 +59,7 @@ void fill_the_tables() {
     store::windows.unload_inlet_editor = editor::unload_inlet_editor;
     editor::windows.move_focus_on = [] { views.workspace->move_focus_on(); };
     editor::windows.run_renumber_dialog = [] { views.renumber->run(); };
+    editor::windows.show_standards = show_standards;
     store::windows.end_program = [] { std::_Exit(EXIT_SUCCESS); };
 }
 

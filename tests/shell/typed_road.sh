@@ -40,7 +40,7 @@ start_display() {
   started+=($!)
   read -r -t 30 -u "$display_number" number || fail "no virtual display"
   export DISPLAY=:$number HOME=$work XDG_RUNTIME_DIR=$work LC_ALL=C.UTF-8
-  unset WAYLAND_DISPLAY
+  unset WAYLAND_DISPLAY QT_QPA_PLATFORM
   chmod 700 "$work"
   openbox --sm-disable >/dev/null 2>&1 &
   started+=($!)

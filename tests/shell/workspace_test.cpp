@@ -1,0 +1,191 @@
+#include <algorithm>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <QComboBox>
+#include <QTabWidget>
+#include <QTableView>
+
+#include "editor/screen_fields.h"
+#include "running_program.h"
+#include "support/sqlite_file.h"
+
+namespace gullymark::shell {
+namespace {
+
+using platform::Box;
+using platform::BoxKind;
+using testing::ElementsAre;
+using testing_support::activate;
+using testing_support::choose;
+using testing_support::click;
+using testing_support::press;
+using testing_support::RunningProgram;
+using testing_support::settle;
+using testing_support::type;
+
+QMainWindow& workspace() {
+    return RunningProgram::window("MDIInlet");
+}
+
+QLineEdit& line(const char* name) {
+    return RunningProgram::line(workspace(), name);
+}
+
+std::string mode() {
+    return RunningProgram::panel(workspace(), "screenmode_panel2");
+}
+
+int page() {
+    return workspace().findChild<QTabWidget*>("SSTab1")->currentIndex();
+}
+
+/// Columns of every inlet in the file.
+std::string saved(const RunningProgram& program, const std::string& columns) {
+    return testing_support::run_sql(program.folder.path("road.gmk"), "SELECT " + columns + " FROM INLET");
+}
+
+/// A new project in the workspace.
+struct NewRoad : RunningProgram {
+    NewRoad() {
+        create_project("road", [](QWidget& form) {
+            activate(form);
+            type(form, "P-1");
+            press(form, Qt::Key_Tab);
+            type(form, "Oak Street");
+            press(form, Qt::Key_S, Qt::ControlModifier);
+        });
+        activate(workspace());
+    }
+
+    void leave() {
+        activate(workspace());
+        if (mode() != "VIEW") {
+            robot.answers.push_back(QMessageBox::Yes);
+            press(workspace(), Qt::Key_Q, Qt::ControlModifier);
+            activate(workspace());
+        }
+        press(workspace(), Qt::Key_Q, Qt::ControlModifier);
+    }
+};
+
+void type_curb_inlet() {
+    press(workspace(), Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(mode(), "ADD");
+    EXPECT_EQ(QApplication::focusWidget(), &line("Inlet_Number"));
+    type(workspace(), "I-1");
+    press(workspace(), Qt::Key_Tab);
+    type(workspace(), "10+50");
+    press(workspace(), Qt::Key_L, Qt::AltModifier);
+    EXPECT_EQ(page(), 1);
+    auto& override_box = *workspace().findChild<QWidget*>("Left_override");
+    click(override_box, {8, override_box.height() / 2});
+    click(line("discharge1"));
+    type(workspace(), "2.5");
+}
+
+TEST(Workspace, ARoadFromAnEmptyFolderToASavedInletAndBack) {
+    NewRoad road;
+    type_curb_inlet();
+    press(workspace(), Qt::Key_F9);
+    EXPECT_EQ(page(), 3);
+    EXPECT_EQ(line("QTotal").text(), "2.500");
+    // The defaults of a curb inlet on grade with 2.5 cfs, as the solver's own tests have them.
+    EXPECT_EQ(line("txtSpread").text(), "8.813");
+    EXPECT_EQ(line("txtQi").text(), "1.198");
+    EXPECT_EQ(line("txtQc").text(), "1.302");
+    road.robot.boxes.clear();
+    press(workspace(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_THAT(road.robot.boxes, ElementsAre(Box{BoxKind::information, "Record Saved"}));
+    EXPECT_EQ(mode(), "VIEW");
+    EXPECT_EQ(saved(road, "INLET_NUMBER, TOTAL_DISCHARGE, OPENSPREAD, QINT"), "I-1|2.500|8.813|1.198");
+
+    road.leave();
+    EXPECT_FALSE(workspace().isVisible());
+    activate(RunningProgram::main());
+    choose(RunningProgram::main(), "mnuFile", "mnucloseProj");
+    road.robot.files.emplace_back(road.folder.path("road.gmk"));
+    choose(RunningProgram::main(), "mnuFile", "mnuopenProj");
+    activate(workspace());
+    EXPECT_EQ(line("Inlet_Number").text(), "I-1");
+    EXPECT_EQ(line("Station").text(), "10+50");
+    EXPECT_EQ(line("discharge1").text(), "2.500");
+    EXPECT_EQ(line("txtQi").text(), "1.198");
+    EXPECT_EQ(workspace().findChild<QTableView*>("flexgrid")->model()->index(0, 0).data(), "I-1");
+    road.leave();
+}
+
+TEST(Workspace, SaveRefusesAnInletThatChangedAfterItsSolve) {
+    NewRoad road;
+    type_curb_inlet();
+    road.robot.boxes.clear();
+    press(workspace(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_THAT(
+        road.robot.boxes,
+        ElementsAre(Box{BoxKind::plain, "Data has changed! Please 'Solve' Inlet Analysis before saving"}));
+    EXPECT_EQ(mode(), "ADD");
+    road.leave();
+}
+
+TEST(Workspace, ARefusedLeaveKeepsTheFocusAndTheClickDoesNotAct) {
+    NewRoad road;
+    press(workspace(), Qt::Key_N, Qt::ControlModifier);
+    type(workspace(), "I-1");
+    auto& list = *workspace().findChild<QComboBox*>("inlet_type");
+    click(*list.lineEdit());
+    list.lineEdit()->selectAll();
+    type(workspace(), "Xx");
+    road.robot.boxes.clear();
+    auto& tabs = *workspace().findChild<QTabWidget*>("SSTab1")->tabBar();
+    click(tabs, tabs.tabRect(2).center());
+    EXPECT_THAT(
+        road.robot.boxes,
+        ElementsAre(Box{BoxKind::plain, "Value not present in the list... Please enter a valid value.."}));
+    EXPECT_EQ(page(), 0);
+    EXPECT_EQ(list.currentText(), "Curb Inlet");
+    press(workspace(), Qt::Key_I, Qt::AltModifier);
+    EXPECT_EQ(page(), 2);
+    road.leave();
+}
+
+TEST(Workspace, ThePagesTurnByTheirLettersAndByThePageKeys) {
+    NewRoad road;
+    press(workspace(), Qt::Key_N, Qt::ControlModifier);
+    type(workspace(), "I-1");
+    const std::vector<std::pair<Qt::Key, int>> letters = {
+        {Qt::Key_L, 1}, {Qt::Key_I, 2}, {Qt::Key_R, 3}, {Qt::Key_D, 0}};
+    for (const auto& [key, expected] : letters) {
+        press(workspace(), key, Qt::AltModifier);
+        EXPECT_EQ(page(), expected);
+    }
+    press(workspace(), Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(page(), 1);
+    press(workspace(), Qt::Key_PageUp, Qt::ControlModifier);
+    press(workspace(), Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(page(), 0);
+    EXPECT_EQ(line("Inlet_Number").text(), "I-1");
+    road.leave();
+}
+
+TEST(Workspace, EveryFieldHasANameForAReaderAndATipWithItsUnit) {
+    NewRoad road;
+    for (const auto id : editor::all_fields) {
+        const auto& field = editor::screen_field(id);
+        if (!field.column || editor::has_rule(id, editor::hidden)) {
+            continue;
+        }
+        const QString name = QString::fromStdString(std::string(editor::field_name(id)));
+        auto* widget = workspace().findChild<QWidget*>(name);
+        EXPECT_FALSE(widget->toolTip().isEmpty()) << name.toStdString();
+        const auto labels = workspace().findChildren<QLabel*>();
+        const bool labelled =
+            !widget->accessibleName().isEmpty() ||
+            std::ranges::any_of(labels, [&](QLabel* label) { return label->buddy() == widget; });
+        EXPECT_TRUE(labelled) << name.toStdString();
+    }
+    EXPECT_EQ(line("txtSpread").toolTip(), "Spread of water at the opening (ft)");
+    road.leave();
+}
+
+}  // namespace
+}  // namespace gullymark::shell
