@@ -15,10 +15,10 @@ export DISPLAY=:$number HOME=$work XDG_RUNTIME_DIR=$work
 openbox --sm-disable >/dev/null 2>&1 &
 "$bin/GullymarkAL" 2>/dev/null &
 program=$!
-sleep 6
+sleep 8 # the splash takes 3 seconds
 memory() { grep -E 'VmHWM|VmRSS' "/proc/$program/status" | tr '\n' ' '; }
 echo "main window: $(memory)"
-xdotool key ctrl+o; sleep 1; xdotool type "$work/road.gmk"; xdotool key Return; sleep 1; xdotool key Return; sleep 3
+xdotool key ctrl+o; sleep 2; xdotool type "$work/road.gmk"; xdotool key Return; sleep 3; xdotool key Return; sleep 5
 echo "workspace, $inlets inlets: $(memory)"
 xdotool key ctrl+l; sleep 3
 echo "with the listing: $(memory)"

@@ -16,7 +16,7 @@ run_packages=(
 test_packages=(
   libgtest-dev libgmock-dev
   clang-format-14 clang-tidy-14
-  xvfb xauth openbox xdotool x11-utils imagemagick
+  xvfb xauth openbox xdotool
 )
 bench_packages=(libbenchmark-dev)
 fuzz_packages=(clang-14 libclang-rt-14-dev)
