@@ -21,7 +21,6 @@ namespace {
 
 using engine::by_units;
 using platform::BoxKind;
-using platform::Colour;
 using platform::tell;
 using enum FieldId;
 

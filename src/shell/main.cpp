@@ -13,7 +13,8 @@ int main(int argc, char** argv) {
     // There is no command line: not even the toolkit's own options.
     argc = argc == 0 ? 0 : 1;
     const QApplication application(argc, argv);
-    std::setlocale(LC_NUMERIC, "C");  // NOLINT(concurrency-mt-unsafe): the one thread there is
+    // The toolkit has set the locale of the desktop; numbers stay as they are written here.
+    static_cast<void>(std::setlocale(LC_NUMERIC, "C"));
     QApplication::setApplicationName("GullymarkAL");
     QApplication::setApplicationDisplayName({});
     gullymark::platform::set_program_folder(QApplication::applicationDirPath().toStdString());

@@ -150,7 +150,7 @@ int talk() {
 }  // namespace
 
 int main() {
-    signal(SIGPIPE, SIG_IGN);
+    static_cast<void>(signal(SIGPIPE, SIG_IGN));
     office::set_up_libraries();
     try {
         _exit(talk());  // the office's libraries need no tidying up, and could hang in it

@@ -146,7 +146,8 @@ void connect_office(Office& office) {
     const auto resolver = com::sun::star::bridge::UnoUrlResolver::create(local);
     const rtl::OUString address =
         text_of("uno:pipe,name=" + pipe_name(office.choice) + ";urp;StarOffice.ComponentContext");
-    for (auto start_again = Clock::now();; std::this_thread::sleep_for(pause_between_tries)) {
+    Clock::time_point start_again{};  // at once
+    while (true) {
         check_owner_of_pipe(office.choice);
         try {
             office.context.set(resolver->resolve(address), uno::UNO_QUERY_THROW);
@@ -162,6 +163,7 @@ void connect_office(Office& office) {
             office.started = start_office(office.choice);
             start_again = Clock::now() + pause_between_starts;
         }
+        std::this_thread::sleep_for(pause_between_tries);
     }
 }
 

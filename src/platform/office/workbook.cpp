@@ -185,7 +185,7 @@ Reference<star::frame::XModel> load(const Office& office, const std::string& pat
 // Called back by the office on its own main thread; from any other, showing a window may wait for ever.
 class ShowWindow : public cppu::WeakImplHelper1<star::awt::XCallback> {
   public:
-    explicit ShowWindow(Reference<star::awt::XWindow> window) : window_(std::move(window)) {}
+    explicit ShowWindow(const Reference<star::awt::XWindow>& window) : window_(window) {}
 
     void SAL_CALL notify(const Any& /*nothing*/) override {
         window_->setVisible(true);
