@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <chrono>
 #include <cmath>
 #include <cstdio>
+#include <ctime>
 #include <random>
 #include <string>
 
@@ -239,16 +239,19 @@ TEST_F(SumpMarch, AFlowThatNeverComesIsAnEndlessSearch) {
 }
 
 TEST_F(SumpMarch, TakesNoLongerThanTheLimitForAnyInput) {
-    const auto started = std::chrono::steady_clock::now();
     for (int i = 0; i < 300; ++i) {
         const SumpFlow flow = odd_inlet(i % 2 == 0 ? 12.0 : 300.0);
-        const auto before = std::chrono::steady_clock::now();
+        const std::clock_t before = std::clock();
         march(flow);
         // The limit of a solve is 20 ms; the checked build is some ten times slower.
-        EXPECT_LT(std::chrono::steady_clock::now() - before, std::chrono::milliseconds(200))
-            << describe(flow);
+        EXPECT_LT(std::clock() - before, CLOCKS_PER_SEC / 5) << describe(flow);
     }
-    EXPECT_LT(std::chrono::steady_clock::now() - started, std::chrono::seconds(3));
+    // The most that a march ever tries: two terms that cancel, so that every depth is in doubt.
+    SumpFlow flow{
+        .Q = 1.0, .A = -1e14, .g = 32.0, .B = 1e14, .h = 1.0, .C = 0.125, .throat = Throat::vertical};
+    const std::clock_t before = std::clock();
+    march(flow);
+    EXPECT_LT(std::clock() - before, CLOCKS_PER_SEC / 5);
 }
 
 }  // namespace
