@@ -11,7 +11,7 @@ build_packages=(
   libsqlite3-dev sqlite3
 )
 run_packages=(
-  libqt6svg6 fonts-dejavu-core xdg-utils xchm
+  libqt6svg6 fonts-dejavu-core fonts-liberation2 xdg-utils xchm
 )
 test_packages=(
   libgtest-dev libgmock-dev
