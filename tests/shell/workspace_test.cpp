@@ -7,8 +7,7 @@
 #include <QTableView>
 
 #include "editor/screen_fields.h"
-#include "running_program.h"
-#include "support/sqlite_file.h"
+#include "new_road.h"
 
 namespace gullymark::shell {
 namespace {
@@ -19,55 +18,15 @@ using testing::ElementsAre;
 using testing_support::activate;
 using testing_support::choose;
 using testing_support::click;
+using testing_support::line;
+using testing_support::mode;
+using testing_support::NewRoad;
+using testing_support::page;
 using testing_support::press;
 using testing_support::RunningProgram;
-using testing_support::settle;
+using testing_support::saved;
 using testing_support::type;
-
-QMainWindow& workspace() {
-    return RunningProgram::window("MDIInlet");
-}
-
-QLineEdit& line(const char* name) {
-    return RunningProgram::line(workspace(), name);
-}
-
-std::string mode() {
-    return RunningProgram::panel(workspace(), "screenmode_panel2");
-}
-
-int page() {
-    return workspace().findChild<QTabWidget*>("SSTab1")->currentIndex();
-}
-
-/// Columns of every inlet in the file.
-std::string saved(const RunningProgram& program, const std::string& columns) {
-    return testing_support::run_sql(program.folder.path("road.gmk"), "SELECT " + columns + " FROM INLET");
-}
-
-/// A new project in the workspace.
-struct NewRoad : RunningProgram {
-    NewRoad() {
-        create_project("road", [](QWidget& form) {
-            activate(form);
-            type(form, "P-1");
-            press(form, Qt::Key_Tab);
-            type(form, "Oak Street");
-            press(form, Qt::Key_S, Qt::ControlModifier);
-        });
-        activate(workspace());
-    }
-
-    void leave() {
-        activate(workspace());
-        if (mode() != "VIEW") {
-            robot.answers.push_back(QMessageBox::Yes);
-            press(workspace(), Qt::Key_Q, Qt::ControlModifier);
-            activate(workspace());
-        }
-        press(workspace(), Qt::Key_Q, Qt::ControlModifier);
-    }
-};
+using testing_support::workspace;
 
 void type_curb_inlet() {
     press(workspace(), Qt::Key_N, Qt::ControlModifier);
