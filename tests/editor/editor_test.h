@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "editor/fresh_start.h"
+#include "support/fresh_start.h"
 #include "platform/outside.h"
 #include "support/outside_double.h"
 #include "support/project_file.h"

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "editor/form_user.h"
-#include "editor/fresh_start.h"
+#include "support/fresh_start.h"
 #include "platform/files.h"
 
 namespace gullymark::roads {

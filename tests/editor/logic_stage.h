@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "editor/road_runner.h"
+#include "roads/road_runner.h"
 #include "support/outside_double.h"
 
 namespace gullymark::roads {

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "editor/logic_stage.h"
-#include "editor/road_runner.h"
+#include "roads/road_runner.h"
 #include "support/outside_double.h"
 
 namespace gullymark::roads {

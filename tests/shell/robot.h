@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include <gtest/gtest.h>
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -82,6 +83,11 @@ class Robot {
     /// What to do in the next modal windows that are neither.
     std::deque<std::function<void(QWidget&)>> in_window;
 
+    // Where one is set it is asked in place of its queue.
+    std::function<platform::Answer(const platform::Box&)> ask_box;
+    std::function<std::optional<std::string>()> ask_file;
+    std::function<void(QWidget&)> ask_window;
+
     Robot() { look_again(); }
     ~Robot() {
         EXPECT_TRUE(answers.empty() && files.empty() && in_window.empty()) << "something never came up";
@@ -108,6 +114,8 @@ class Robot {
             answer(*box);
         } else if (auto* dialog = qobject_cast<QFileDialog*>(window)) {
             choose_file(*dialog);
+        } else if (ask_window) {
+            ask_window(*window);
         } else if (!in_window.empty()) {
             const auto work = std::move(in_window.front());
             in_window.pop_front();
@@ -121,7 +129,9 @@ class Robot {
                          .text = box.text().toStdString(),
                          .title = box.windowTitle().toStdString()});
         QAbstractButton* button = box.defaultButton();
-        if (!answers.empty()) {
+        if (ask_box) {
+            button = box.button(button_of(ask_box(boxes.back())));
+        } else if (!answers.empty()) {
             button = box.button(answers.front());
             answers.pop_front();
         } else if (button == nullptr) {
@@ -133,10 +143,7 @@ class Robot {
 
     void choose_file(QFileDialog& dialog) {
         file_titles.push_back(dialog.windowTitle().toStdString());
-        const auto name = files.empty() ? std::nullopt : files.front();
-        if (!files.empty()) {
-            files.pop_front();
-        }
+        const auto name = next_file();
         auto* buttons = dialog.findChild<QDialogButtonBox*>("buttonBox");
         if (!name) {
             QTest::mouseClick(buttons->button(QDialogButtonBox::Cancel), Qt::LeftButton);
@@ -146,6 +153,29 @@ class Robot {
         const bool saving = dialog.acceptMode() == QFileDialog::AcceptSave;
         QTest::mouseClick(buttons->button(saving ? QDialogButtonBox::Save : QDialogButtonBox::Open),
                           Qt::LeftButton);
+    }
+
+    std::optional<std::string> next_file() {
+        if (ask_file) {
+            return ask_file();
+        }
+        if (files.empty()) {
+            return std::nullopt;
+        }
+        const auto name = files.front();
+        files.pop_front();
+        return name;
+    }
+
+    static QMessageBox::StandardButton button_of(platform::Answer answer) {
+        switch (answer) {
+            case platform::Answer::yes:
+                return QMessageBox::Yes;
+            case platform::Answer::no:
+                return QMessageBox::No;
+            default:
+                return QMessageBox::Ok;
+        }
     }
 
     static platform::BoxKind kind_of(const QMessageBox& box) {

@@ -21,6 +21,7 @@
 #include "store/project_session.h"
 #include "store/project_store.h"
 #include "store/windows.h"
+#include "support/fresh_start.h"
 #include "support/outside_double.h"
 
 namespace gullymark::testing_support {
@@ -35,10 +36,7 @@ struct RunningProgram {
     Robot robot;
 
     RunningProgram() {
-        store::session = {};
-        store::frmsoftwaremain = {};
-        store::frmProject = {};
-        store::project_store = {};
+        forget_everything();
         platform::printDlg = {};
         const std::string program = folder.path("program");
         std::filesystem::create_directory(program);
@@ -54,9 +52,7 @@ struct RunningProgram {
     }
     ~RunningProgram() {
         shell::destroy_windows();
-        store::windows = {};
-        store::frmProject = {};
-        store::project_store = {};
+        forget_everything();
         platform::outside = {};
         platform::printDlg = {};
         platform::set_program_folder("");

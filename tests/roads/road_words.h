@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "editor/road_text.h"
+#include "roads/road_text.h"
 
 /// How a line of a road is understood: by patterns of words.
 namespace gullymark::roads {

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "editor/road_file.h"
-#include "editor/road_text.h"
+#include "roads/road_file.h"
+#include "roads/road_text.h"
 #include "platform/outside.h"
 
 /// Runs a road: a text that tells what a designer does and what he then sees.

@@ -1,4 +1,4 @@
-#include "editor/road_text.h"
+#include "roads/road_text.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -1,4 +1,4 @@
-#include "editor/road_file.h"
+#include "roads/road_file.h"
 
 #include <filesystem>
 #include <stdexcept>

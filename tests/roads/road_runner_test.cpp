@@ -1,4 +1,4 @@
-#include "editor/road_runner.h"
+#include "roads/road_runner.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest-spi.h>
@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "editor/road_words.h"
+#include "roads/road_words.h"
 #include "support/outside_double.h"
 
 namespace gullymark::roads {

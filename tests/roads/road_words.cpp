@@ -1,4 +1,4 @@
-#include "editor/road_words.h"
+#include "roads/road_words.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -1,4 +1,4 @@
-#include "editor/road_runner.h"
+#include "roads/road_runner.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <stdexcept>
 #include <utility>
 
-#include "editor/road_words.h"
+#include "roads/road_words.h"
 
 namespace gullymark::roads {
 namespace {
