@@ -62,7 +62,7 @@ class Binder : public QObject {
 
     /// Gives a field the focus once the handler is through; the page that it stands on comes to the front.
     void focus(const std::string& name);
-    /// The same, and selects its whole text.
+    /// Selects a field's whole text once the handler is through; the focus stays where it is.
     void select_all(const std::string& name);
     /// As the Tab key.
     void move_on();
@@ -89,6 +89,7 @@ class Binder : public QObject {
     void enter_where_focus_is();
     void enter_later();
     void move_focus();
+    void select_text();
     void forget_lost_field();
 
     [[nodiscard]] Bound* bound_to(const QObject* widget);
@@ -101,7 +102,7 @@ class Binder : public QObject {
     Bound* current_ = nullptr;    // the field that was entered and not yet left
     bool held_ = false;           // the logic says itself that it is in that field
     Bound* wanted_ = nullptr;     // the field that the logic wants the focus in
-    bool select_wanted_ = false;
+    Bound* selected_ = nullptr;   // the field whose text the logic wants selected
     bool leaving_ = false;
 };
 

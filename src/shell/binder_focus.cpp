@@ -234,25 +234,36 @@ void Binder::focus(const std::string& name) {
 }
 
 void Binder::select_all(const std::string& name) {
-    focus(name);
-    select_wanted_ = true;
+    selected_ = named(name);
 }
 
 void Binder::move_focus() {
-    Bound* wanted = std::exchange(wanted_, nullptr);
-    const bool select = std::exchange(select_wanted_, false);
-    if (wanted == nullptr) {
+    if (Bound* wanted = std::exchange(wanted_, nullptr)) {
+        wanted->widgets.front()->setFocus(Qt::OtherFocusReason);
+    }
+    select_text();
+}
+
+void Binder::select_text() {
+    Bound* selected = std::exchange(selected_, nullptr);
+    QWidget* widget = selected == nullptr ? nullptr : selected->widgets.front();
+    QLineEdit* line = widget == nullptr ? nullptr : line_of(*widget);
+    if (line == nullptr) {
         return;
     }
-    QWidget* widget = wanted->widgets.front();
-    widget->setFocus(Qt::OtherFocusReason);
-    QLineEdit* line = line_of(*widget);
-    if (select && line != nullptr) {
-        // A press that brought the focus sets the cursor after this.
-        const bool pressed = QGuiApplication::mouseButtons() != Qt::NoButton;
-        QMetaObject::invokeMethod(line, &QLineEdit::selectAll,
-                                  pressed ? Qt::QueuedConnection : Qt::DirectConnection);
+    if (QGuiApplication::mouseButtons() == Qt::NoButton) {
+        line->selectAll();
+        return;
     }
+    // A press that brought the focus sets the cursor after this; one that took it leaves nothing to select.
+    QMetaObject::invokeMethod(
+        line,
+        [this, widget, line] {
+            if (window_.focusWidget() == widget) {
+                line->selectAll();
+            }
+        },
+        Qt::QueuedConnection);
 }
 
 void Binder::move_on() {

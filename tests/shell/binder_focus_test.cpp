@@ -89,6 +89,7 @@ TEST(Leaving, IsRefusedWhenTheLogicWantsTheFocusBack) {
     auto items = form.items();
     items[0].leave = [&form] {
         form.number.text = "again";
+        form.binder->focus("number");
         form.binder->select_all("number");
         return true;
     };
@@ -100,6 +101,20 @@ TEST(Leaving, IsRefusedWhenTheLogicWantsTheFocusBack) {
     EXPECT_THAT(form.heard, IsEmpty());
     EXPECT_TRUE(form.number_line->hasFocus());
     EXPECT_EQ(form.number_line->selectedText(), "again");
+}
+
+TEST(Leaving, IsNotHeldUpByASelection) {
+    SmallForm form;
+    auto items = form.items();
+    items[0].leave = [&form] {
+        form.binder->select_all("number");
+        return true;
+    };
+    form.bind(std::move(items));
+    activate(form.window);
+    click(*form.number_line);
+    press(form.window, Qt::Key_Tab);
+    EXPECT_FALSE(form.number_line->hasFocus());
 }
 
 /// A form whose first field shows a box when it is left.
