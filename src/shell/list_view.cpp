@@ -1,6 +1,7 @@
 #include "shell/list_view.h"
 
 #include <QCloseEvent>
+#include <QEvent>
 #include <QHeaderView>
 
 #include "editor/inlet_list.h"
@@ -55,6 +56,7 @@ void ListView::build_rows() {
             editor::inletflex_DblClick();
         });
     });
+    ui_->inletflex->viewport()->installEventFilter(this);
 }
 
 void ListView::show_state() {
@@ -68,6 +70,13 @@ void ListView::show_state() {
     if (isVisible() != frminletflex.visible) {
         setVisible(frminletflex.visible);
     }
+}
+
+bool ListView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonDblClick && rows_->rowCount({}) == 0) {
+        handle(editor::inletflex_DblClick);
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void ListView::closeEvent(QCloseEvent* event) {

@@ -20,6 +20,8 @@ class ListView : public QMainWindow {
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    /// Hears a double click where no row is.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void build_rows();
