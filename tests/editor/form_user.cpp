@@ -80,15 +80,28 @@ bool type_into(FieldId id, const std::string& keys) {
     if (!go_to(id)) {
         return false;
     }
-    std::string typed;
-    for (const char key : keys) {
-        if (const auto passed = filter_key(id, static_cast<unsigned char>(key), typed, ""); passed != 0) {
-            typed += static_cast<char>(passed);
-        }
-        edited(id, typed);
-    }
-    if (keys.empty()) {
+    const InletScreen& screen = frminletMDIC.screen;
+    std::string selected = screen.text(id);
+    if (keys.empty() && !selected.empty()) {
         edited(id, "");
+    }
+    for (const char key : keys) {
+        const std::string whole = screen.text(id);
+        if (const auto passed = filter_key(id, static_cast<unsigned char>(key), whole, selected); passed != 0) {
+            edited(id, (selected.empty() ? whole : "") + static_cast<char>(passed));
+            selected.clear();
+        }
+    }
+    return true;
+}
+
+bool paste_into(FieldId id, const std::string& pasted) {
+    if (!go_to(id)) {
+        return false;
+    }
+    const std::string whole = frminletMDIC.screen.text(id);
+    if (const std::string passed = filter_text(id, pasted, whole, whole); !passed.empty()) {
+        edited(id, passed);
     }
     return true;
 }

@@ -17,6 +17,8 @@ bool go_to(editor::FieldId field);
 
 /// Types in place of the field's text, key by key.
 bool type_into(editor::FieldId field, const std::string& keys);
+/// The same at once, from the clipboard.
+bool paste_into(editor::FieldId field, const std::string& pasted);
 bool pick_in(editor::FieldId field, const std::string& entry);
 bool open_list(editor::FieldId field);
 bool click_on(editor::FieldId field);

@@ -194,6 +194,9 @@ void LogicStage::set_deeds() {
         return in_details() || in_renumber() ? type_into_form(name, keys)
                                              : turn([&] { return type_into(field_id(name), keys); });
     };
+    stage.paste = [this](const std::string& name, const std::string& pasted) {
+        return turn([&] { return paste_into(field_id(name), pasted); });
+    };
     stage.pick = [this](const std::string& name, const std::string& entry) {
         return in_details() ? type_into_form(name, entry)
                             : turn([&] { return pick_in(field_id(name), entry); });

@@ -26,6 +26,7 @@ constexpr auto deeds = std::to_array<Deed>({
     {"press ...",           [](const Stage& s, const Texts& t) { return s.press(join(t, " ")); }},
     {"force ...",           [](const Stage& s, const Texts& t) { return s.force(join(t, " ")); }},
     {"type $ into $",       [](const Stage& s, const Texts& t) { return s.type(t[1], t[0]); }},
+    {"paste $ into $",      [](const Stage& s, const Texts& t) { return s.paste(t[1], t[0]); }},
     {"pick $ in $",         [](const Stage& s, const Texts& t) { return s.pick(t[1], t[0]); }},
     {"open the list of $",  [](const Stage& s, const Texts& t) { return s.open_list(t[0]); }},
     {"check $",             [](const Stage& s, const Texts& t) { return !s.is_checked(t[0]) && s.click(t[0]); }},

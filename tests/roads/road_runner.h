@@ -25,6 +25,7 @@ struct Stage {
     std::function<bool(const std::string& caption)> choose;  // a command of the window's menu
     std::function<bool(const std::string& caption)> press;   // a button of the tool bar or of a form
     std::function<bool(const std::string& field, const std::string& keys)> type;  // in place of its text
+    std::function<bool(const std::string& field, const std::string& text)> paste;
     std::function<bool(const std::string& field, const std::string& entry)> pick;
     std::function<bool(const std::string& field)> open_list;  // and closes it without a pick
     std::function<bool(const std::string& field)> click;

@@ -125,6 +125,9 @@ void WindowStage::set_deeds() {
     stage.type = [this](const std::string& name, const std::string& keys) {
         return turn([&](QWidget& window) { return type_into(window, name, keys); });
     };
+    stage.paste = [this](const std::string& name, const std::string& text) {
+        return turn([&](QWidget& window) { return paste_into(window, name, text); });
+    };
     stage.pick = [this](const std::string& name, const std::string& entry) {
         return turn([&](QWidget& window) { return pick_in(window, name, entry); });
     };

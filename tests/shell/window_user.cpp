@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -47,6 +48,24 @@ bool is_in_sight(const QWidget& window, const QWidget& field) {
         throw std::runtime_error(field.objectName().toStdString() + " stands on another page");
     }
     return field.isVisible();
+}
+
+/// By mouse, and selects what stands there.
+bool go_to_text(QWidget& window, const std::string& field) {
+    QWidget& widget = field_of(window, field);
+    QLineEdit* line = shell::line_of(widget);
+    if (line == nullptr) {
+        throw std::runtime_error(field + " takes no typing");
+    }
+    if (!is_in_sight(window, widget)) {
+        return false;
+    }
+    click_at(*line, line->rect().center());
+    if (window.focusWidget() != &widget || line->isReadOnly()) {
+        return false;
+    }
+    testing_support::press(window, Qt::Key_A, Qt::ControlModifier);
+    return true;
 }
 
 /// Where a list is clicked so that it drops down.
@@ -112,23 +131,22 @@ bool press(QWidget& window, const std::string& caption) {
 }
 
 bool type_into(QWidget& window, const std::string& field, const std::string& keys) {
-    QWidget& widget = field_of(window, field);
-    QLineEdit* line = shell::line_of(widget);
-    if (line == nullptr) {
-        throw std::runtime_error(field + " takes no typing");
-    }
-    if (!is_in_sight(window, widget)) {
+    if (!go_to_text(window, field)) {
         return false;
     }
-    click_at(*line, line->rect().center());
-    if (window.focusWidget() != &widget || line->isReadOnly()) {
-        return false;
-    }
-    testing_support::press(window, Qt::Key_A, Qt::ControlModifier);
     if (keys.empty()) {
         testing_support::press(window, Qt::Key_Delete);
     }
     testing_support::type(window, keys);
+    return true;
+}
+
+bool paste_into(QWidget& window, const std::string& field, const std::string& text) {
+    if (!go_to_text(window, field)) {
+        return false;
+    }
+    QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+    testing_support::press(window, Qt::Key_V, Qt::ControlModifier);
     return true;
 }
 

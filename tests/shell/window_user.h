@@ -21,6 +21,8 @@ bool press(QWidget& window, const std::string& caption);
 
 /// Types in place of the field's text, key by key.
 bool type_into(QWidget& window, const std::string& field, const std::string& keys);
+/// The same at once, from the clipboard.
+bool paste_into(QWidget& window, const std::string& field, const std::string& text);
 bool pick_in(QWidget& window, const std::string& field, const std::string& entry);
 bool open_list(QWidget& window, const std::string& field);
 bool click_on(QWidget& window, const std::string& field);

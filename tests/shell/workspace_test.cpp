@@ -7,6 +7,7 @@
 #include <QTableView>
 
 #include "editor/screen_fields.h"
+#include "engine/inlet_record.h"
 #include "new_road.h"
 
 namespace gullymark::shell {
@@ -83,6 +84,40 @@ TEST(Workspace, SaveRefusesAnInletThatChangedAfterItsSolve) {
         road.robot.boxes,
         ElementsAre(Box{BoxKind::plain, "Data has changed! Please 'Solve' Inlet Analysis before saving"}));
     EXPECT_EQ(mode(), "ADD");
+    road.leave();
+}
+
+TEST(Workspace, AnUndoWithinAFieldGoesIntoTheInletToo) {
+    NewRoad road;
+    const auto station = [] { return engine::open_inlet.text(engine::Column::STATION); };
+    press(workspace(), Qt::Key_N, Qt::ControlModifier);
+    type(workspace(), "I-1");
+    press(workspace(), Qt::Key_Tab);
+    type(workspace(), "10+50");
+    EXPECT_EQ(station(), "10+50");
+    press(workspace(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(line("Station").text(), "");
+    EXPECT_EQ(station(), "");
+    press(workspace(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(line("Station").text(), "10+50");
+    EXPECT_EQ(station(), "10+50");
+    road.leave();
+}
+
+TEST(Workspace, AnUndoDoesNotBringBackTheTextBeforeItsFormat) {
+    NewRoad road;
+    press(workspace(), Qt::Key_N, Qt::ControlModifier);
+    type(workspace(), "I-1");
+    click(line("TopElevation"));
+    type(workspace(), "1.5");
+    press(workspace(), Qt::Key_Tab);
+    EXPECT_EQ(line("TopElevation").text(), "1.500");
+    click(line("TopElevation"));
+    press(workspace(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(line("TopElevation").text(), "1.500");
+    type(workspace(), "2");
+    press(workspace(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(line("TopElevation").text(), "1.500");
     road.leave();
 }
 
