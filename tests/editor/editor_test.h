@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "support/fresh_start.h"
 #include "platform/outside.h"
+#include "support/fresh_start.h"
 #include "support/outside_double.h"
 #include "support/project_file.h"
 

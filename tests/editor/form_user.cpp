@@ -87,7 +87,8 @@ bool type_into(FieldId id, const std::string& keys) {
     }
     for (const char key : keys) {
         const std::string whole = screen.text(id);
-        if (const auto passed = filter_key(id, static_cast<unsigned char>(key), whole, selected); passed != 0) {
+        if (const auto passed = filter_key(id, static_cast<unsigned char>(key), whole, selected);
+            passed != 0) {
             edited(id, (selected.empty() ? whole : "") + static_cast<char>(passed));
             selected.clear();
         }

@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "editor/form_user.h"
-#include "support/fresh_start.h"
 #include "platform/files.h"
+#include "support/fresh_start.h"
 
 namespace gullymark::roads {
 namespace {

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "platform/outside.h"
 #include "roads/road_file.h"
 #include "roads/road_text.h"
-#include "platform/outside.h"
 
 /// Runs a road: a text that tells what a designer does and what he then sees.
 ///

@@ -162,7 +162,7 @@ class Robot {
         if (files.empty()) {
             return std::nullopt;
         }
-        const auto name = files.front();
+        auto name = files.front();
         files.pop_front();
         return name;
     }

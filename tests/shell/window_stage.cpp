@@ -137,15 +137,11 @@ void WindowStage::set_deeds() {
     stage.click = [this](const std::string& name) {
         return turn([&](QWidget& window) { return click_on(window, name); });
     };
-    stage.strike_tab = [this] {
-        return turn([](QWidget& window) { return strike(window, Qt::Key_Tab); });
-    };
+    stage.strike_tab = [this] { return turn([](QWidget& window) { return strike(window, Qt::Key_Tab); }); };
     stage.strike_enter = [this] {
         return turn([](QWidget& window) { return strike(window, Qt::Key_Return); });
     };
-    stage.turn = [this](int page) {
-        return turn([&](QWidget& window) { return turn_page(window, page); });
-    };
+    stage.turn = [this](int page) { return turn([&](QWidget& window) { return turn_page(window, page); }); };
     stage.go_to_row = [this](int row) {
         return turn([&](QWidget& window) { return go_to_row(window, row); });
     };

@@ -183,9 +183,9 @@ bool click_on(QWidget& window, const std::string& field) {
         throw std::runtime_error(field + " cannot be clicked");
     }
     constexpr int in_the_box = 8;
-    return is_in_sight(window, *button) &&
-           tells(*button, &QAbstractButton::clicked,
-                 [&] { click_at(*button, {in_the_box, button->height() / 2}); });
+    return is_in_sight(window, *button) && tells(*button, &QAbstractButton::clicked, [&] {
+               click_at(*button, {in_the_box, button->height() / 2});
+           });
 }
 
 bool strike(QWidget& window, Qt::Key key) {
