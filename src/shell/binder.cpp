@@ -97,14 +97,16 @@ void Binder::watch(Bound& bound, QWidget& widget) {
     widget.installEventFilter(this);
     watch_list(item, widget);
     if (QLineEdit* line = line_of(widget)) {
-        line->setMaxLength(item.limit == 0 ? line->maxLength() : static_cast<int>(item.limit));
         connect(line, &QLineEdit::textEdited, this, [&item](const QString& text) {
             if (item.edited) {
                 handle([&] { item.edited(text.toStdString()); });
             }
         });
+        const int limit = item.limit == 0 ? line->maxLength() : static_cast<int>(item.limit);
         if (item.filter) {
-            filter_incoming_text(*line, item.filter);
+            filter_incoming_text(*line, item.filter, limit);
+        } else {
+            line->setMaxLength(limit);
         }
     }
     if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {

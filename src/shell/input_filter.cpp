@@ -17,6 +17,7 @@ constexpr char32_t first_printable_key = 32;
 
 /// What a change put into a text, and in place of what.
 struct Change {
+    int at = 0;
     QString removed;
     QString inserted;
 };
@@ -32,7 +33,8 @@ Change change_between(const QString& old_text, const QString& new_text) {
            old_text[old_text.size() - 1 - tail] == new_text[new_text.size() - 1 - tail]) {
         ++tail;
     }
-    return {.removed = old_text.mid(head, old_text.size() - head - tail),
+    return {.at = static_cast<int>(head),
+            .removed = old_text.mid(head, old_text.size() - head - tail),
             .inserted = new_text.mid(head, new_text.size() - head - tail)};
 }
 
@@ -40,14 +42,17 @@ Change change_between(const QString& old_text, const QString& new_text) {
 /// line, which keeps its history, and then made again with what is left of it.
 class InputJudge : public QValidator {
   public:
-    InputJudge(QLineEdit& line, InputFilter filter)
-        : QValidator(&line), line_(line), filter_(std::move(filter)), judged_(line.text()) {
+    InputJudge(QLineEdit& line, InputFilter filter, int limit)
+        : QValidator(&line), line_(line), filter_(std::move(filter)), limit_(limit), judged_(line.text()) {
         // Queued, for the line tells of the rejection before it takes the change back.
         connect(
             &line, &QLineEdit::inputRejected, this,
             [this] {
-                if (!rest_.isEmpty()) {
-                    line_.insert(std::exchange(rest_, QString()));
+                if (!rest_.inserted.isEmpty()) {
+                    const Change rest = std::exchange(rest_, {});
+                    // Not where the cursor is: a pasted text can begin like the selection that it replaces.
+                    line_.setSelection(rest.at, static_cast<int>(rest.removed.size()));
+                    line_.insert(rest.inserted);
                     emit line_.textEdited(line_.text());
                 }
             },
@@ -58,24 +63,27 @@ class InputJudge : public QValidator {
     State validate(QString& text, int& /*cursor*/) const override {
         const bool by_the_program = !line_.isUndoAvailable();  // which begins a new history
         const bool undoing = line_.isRedoAvailable();
-        const Change change = change_between(judged_, text);
+        Change change = change_between(judged_, text);
         if (by_the_program || undoing || change.inserted.isEmpty()) {
             return Acceptable;
         }
-        const QString counts = QString::fromStdString(
+        QString counts = QString::fromStdString(
             filter_.text(change.inserted.toStdString(), judged_.toStdString(), change.removed.toStdString()));
+        counts.truncate(std::max<qsizetype>(0, limit_ - (judged_.size() - change.removed.size())));
         if (counts == change.inserted) {
             return Acceptable;
         }
-        rest_ = counts;
+        change.inserted = counts;
+        rest_ = std::move(change);
         return Invalid;
     }
 
   private:
     QLineEdit& line_;
     InputFilter filter_;
-    QString judged_;        // the line's text before the change
-    mutable QString rest_;  // what of a refused change is to go in
+    int limit_;            // of characters; the line's own would cut a pasted text before it is filtered
+    QString judged_;       // the line's text before the change
+    mutable Change rest_;  // what of a refused change is to go in
 };
 
 }  // namespace
@@ -100,8 +108,8 @@ bool takes_key(const InputFilter& filter, const QKeyEvent& press, const QLineEdi
     return counts == key;
 }
 
-void filter_incoming_text(QLineEdit& line, const InputFilter& filter) {
-    line.setValidator(new InputJudge(line, filter));
+void filter_incoming_text(QLineEdit& line, const InputFilter& filter, int limit) {
+    line.setValidator(new InputJudge(line, filter, limit));
 }
 
 }  // namespace gullymark::shell

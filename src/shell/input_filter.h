@@ -23,7 +23,8 @@ struct InputFilter {
 /// True when a key may go into `line`.
 bool takes_key(const InputFilter& filter, const QKeyEvent& press, const QLineEdit& line);
 
-/// Keeps text that comes at once to the filter. Undo stays as it is, and so does what the program itself puts in.
-void filter_incoming_text(QLineEdit& line, const InputFilter& filter);
+/// Keeps what the user puts in to the filter, and what then counts to `limit` characters in all. Undo stays as it is,
+/// and so does what the program itself puts in.
+void filter_incoming_text(QLineEdit& line, const InputFilter& filter, int limit);
 
 }  // namespace gullymark::shell

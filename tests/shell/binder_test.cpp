@@ -238,6 +238,17 @@ TEST(InputFilter, LetsAPastedTextTakeThePlaceOfTheSelection) {
     EXPECT_EQ(form.number.text, "9");
 }
 
+TEST(InputFilter, CountsTheLimitAfterAPastedTextIsFiltered) {
+    FilteredForm form;
+    click(*form.number_line);
+    form.number_line->selectAll();
+    QGuiApplication::clipboard()->setText("1,2,3,4,5,6,7,8,9,0");
+    press(form.window, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(form.number.text, "12345678");
+    type(form.window, "9");
+    EXPECT_EQ(form.number.text, "12345678");
+}
+
 TEST(InputFilter, KeepsTheTextWhenNothingOfAPasteCounts) {
     FilteredForm form;
     click(*form.number_line);
