@@ -7,7 +7,7 @@
 #include <QTableView>
 
 #include "editor/screen_fields.h"
-#include "running_program.h"
+#include "new_road.h"
 #include "support/sqlite_file.h"
 
 namespace gullymark::shell {
@@ -24,64 +24,9 @@ using testing_support::RunningProgram;
 using testing_support::settle;
 using testing_support::type;
 
-QMainWindow& workspace() {
-    return RunningProgram::window("MDIInlet");
-}
-
-QLineEdit& line(const char* name) {
-    return RunningProgram::line(workspace(), name);
-}
-
-std::string mode() {
-    return RunningProgram::panel(workspace(), "screenmode_panel2");
-}
-
-int page() {
-    return workspace().findChild<QTabWidget*>("SSTab1")->currentIndex();
-}
-
 /// Columns of every inlet in the file.
 std::string saved(const RunningProgram& program, const std::string& columns) {
     return testing_support::run_sql(program.folder.path("road.gmk"), "SELECT " + columns + " FROM INLET");
-}
-
-/// A new project in the workspace.
-struct NewRoad : RunningProgram {
-    NewRoad() {
-        create_project("road", [](QWidget& form) {
-            activate(form);
-            type(form, "P-1");
-            press(form, Qt::Key_Tab);
-            type(form, "Oak Street");
-            press(form, Qt::Key_S, Qt::ControlModifier);
-        });
-        activate(workspace());
-    }
-
-    void leave() {
-        activate(workspace());
-        if (mode() != "VIEW") {
-            robot.answers.push_back(QMessageBox::Yes);
-            press(workspace(), Qt::Key_Q, Qt::ControlModifier);
-            activate(workspace());
-        }
-        press(workspace(), Qt::Key_Q, Qt::ControlModifier);
-    }
-};
-
-void type_curb_inlet() {
-    press(workspace(), Qt::Key_N, Qt::ControlModifier);
-    EXPECT_EQ(mode(), "ADD");
-    EXPECT_EQ(QApplication::focusWidget(), &line("Inlet_Number"));
-    type(workspace(), "I-1");
-    press(workspace(), Qt::Key_Tab);
-    type(workspace(), "10+50");
-    press(workspace(), Qt::Key_L, Qt::AltModifier);
-    EXPECT_EQ(page(), 1);
-    auto& override_box = *workspace().findChild<QWidget*>("Left_override");
-    click(override_box, {8, override_box.height() / 2});
-    click(line("discharge1"));
-    type(workspace(), "2.5");
 }
 
 TEST(Workspace, ARoadFromAnEmptyFolderToASavedInletAndBack) {
