@@ -13,6 +13,9 @@ namespace {
 
 using engine::Column;
 
+/// Rows of one kind follow each other in a table: this far on stands another kind. A prime passes over no row.
+constexpr std::size_t stride = 37;
+
 std::string inlet_number(std::size_t index) {
     std::ostringstream number;
     number << "I-" << std::setw(6) << std::setfill('0') << index + 1;
@@ -70,9 +73,10 @@ void make_project(const std::string& template_path, const std::string& table, co
     std::size_t next = 0;
     for (std::size_t index = 0; index < inlets; ++index) {
         while (cases::cell(rows, rows.rows[next % rows.rows.size()], "UNITS") != "ENGLISH") {
-            ++next;
+            next += stride;
         }
-        cases::solve_row(rows, rows.rows[next++ % rows.rows.size()]);
+        cases::solve_row(rows, rows.rows[next % rows.rows.size()]);
+        next += stride;
         add_inlet(connection, index);
     }
     connection.execute("COMMIT");
