@@ -64,6 +64,17 @@ class TestOffice {
         }
     }
 
+    /// Starts it without the program's knowledge, with nothing open; it may not be quite up yet.
+    void start_as_the_user_does() const {
+        const std::string command = "soffice -env:UserInstallation=file://" + path("profile") +
+                                    " --headless --nologo --nodefault >/dev/null 2>&1 &";
+        const std::string ready = path("profile/user");
+        if (std::system(command.c_str()) != 0 ||
+            !wait_until([&] { return !processes().empty() && std::filesystem::exists(ready); })) {
+            throw std::runtime_error("the office does not start");
+        }
+    }
+
     /// The processes of this office.
     [[nodiscard]] std::vector<pid_t> processes() const {
         std::vector<pid_t> found;
