@@ -3,10 +3,12 @@
 //
 //   fill_sheets BIN TABLE FOLDER       BIN: the folder of the program; TABLE: solved inlets, see case_table.h
 //
-// They become pages with  soffice --convert-to pdf --outdir FOLDER FOLDER/*.xls
+// They become pages with  soffice --headless --convert-to pdf --outdir FOLDER FOLDER/*.xls  and the help's pictures with
+// tools/draw_sheets.sh.
 
 #include <algorithm>
 #include <cctype>
+#include <chrono>
 #include <exception>
 #include <filesystem>
 #include <iostream>
@@ -45,16 +47,6 @@ std::string file_name(std::string words) {
     return words;
 }
 
-void describe_place(engine::InletRecord& inlet) {
-    inlet.load(Column::INLET_NUMBER, "I-12");
-    inlet.load(Column::ROADWAY, "County Road 12");
-    inlet.load(Column::STATION, "10+50.00");
-    inlet.load(Column::OFFSET, "-12.000");
-    inlet.load(Column::OFFSET_LOCATION, "LEFT");
-    inlet.load(Column::TOP_ELEVATION, "184.25");
-    inlet.load(Column::FLOW_DIRECTION, "BACK");
-}
-
 void fill_reports(const testing_support::TestOffice& office, const std::string& table,
                   const std::string& folder) {
     const auto rows = cases::read_table(table);
@@ -68,7 +60,8 @@ void fill_reports(const testing_support::TestOffice& office, const std::string& 
         }
         kind_before = kind;
         cases::solve_row(rows, row);
-        describe_place(engine::open_inlet);
+        tools::describe_place(engine::open_inlet, 1);
+        engine::open_inlet.load(Column::INLET_NUMBER, "I-12");
         store::session.projectUnits = cases::cell(rows, row, "UNITS");
         save_sheet(office, folder, "report_" + file_name(kind),
                    [] { reports::inlet_report(1, engine::open_inlet); });
@@ -98,6 +91,7 @@ int main(int argc, char** argv) {
         const std::string folder = std::filesystem::absolute(argv[3]);
         std::filesystem::create_directories(folder);
         platform::set_program_folder(bin);
+        platform::outside.today = [] { return std::chrono::year(2024) / std::chrono::May / 7; };
         store::session = {.projectId = "STP-0012(3)",
                           .projectName = "Main Street resurfacing",
                           .projectCounty = "AUTAUGA",
