@@ -33,8 +33,11 @@ void attach_inlet_datasource() {
 
 void get_all_projectrecords() {
     get_inlet_records(frminletflex.ViewInletNumber);
-    if (frmviewinlet.viewinletRS.is_open()) {
+    try {
         attach_inlet_datasource();
+    } catch (const platform::Failure& failure) {
+        // A damaged row: the view opens without it.
+        platform::tell(failure.what());
     }
 }
 

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "editor/inlet_form.h"
+#include "shell/copy_texts.h"
 #include "shell/inlet_items.h"
 #include "shell/turn.h"
 #include "ui_inlet_form_view.h"
@@ -20,6 +21,7 @@ void InletFormView::bind() {
     add_view([this] { carry_out_wishes(); });  // before the binder, which then moves the focus
     binder_ = new Binder(*this, design_form_items());
     add_view([this] { put_tool_tips(*this); });
+    add_copying(*this, frminletMDIC.screen);
 }
 
 void InletFormView::carry_out_wishes() {

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 
 #include "editor/inlet_view.h"
+#include "shell/copy_texts.h"
 #include "shell/inlet_items.h"
 #include "shell/turn.h"
 #include "ui_inlet_form_view.h"
@@ -16,6 +17,7 @@ RecordView::RecordView() : form_(new Ui::frminletMDIC) {
     form_->setupUi(this);
     setObjectName("frmviewinlet");
     new Binder(*this, record_view_items());  // owned by the window
+    add_copying(*this, frmviewinlet.screen);
     add_view([this] { show_state(); });
 }
 

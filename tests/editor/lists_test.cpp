@@ -1,4 +1,5 @@
 #include <array>
+#include <fstream>
 
 #include "editor_test.h"
 
@@ -263,6 +264,28 @@ TEST_F(RecordView, AnApostropheShowsTheStoresError) {
     const Boxes shown_boxes = boxes();
     ASSERT_EQ(shown_boxes.size(), 1U);
     EXPECT_EQ(shown_boxes[0].kind, BoxKind::plain);
+    EXPECT_EQ(viewed_text(Inlet_Number), "");
+}
+
+/// Breaks every row that is longer than a page: the pages that carry it on lead nowhere.
+void damage_long_rows(const std::string& path) {
+    constexpr std::streamoff page = 4096;
+    std::fstream file(path, std::ios::in | std::ios::out | std::ios::binary);
+    std::string start(8, ' ');
+    for (std::streamoff at = 0; file.seekg(at).read(start.data(), 8); at += page) {
+        if (start.substr(4) == "xxxx") {
+            file.seekp(at).write("\xFF\xFF\xFF\xFF", 4);
+        }
+    }
+}
+
+TEST_F(RecordView, ADamagedRowShowsTheStoresErrorAndAnEmptyRecord) {
+    put_inlets({{{"INLET_NUMBER", "C"}, {"GUTTERSPREAD", std::string(20000, 'x')}}});
+    damage_long_rows(path);
+    frminletflex.ViewInletNumber = "C";
+    show_inlet_view();
+    EXPECT_EQ(boxes(), Boxes{plain("database disk image is malformed")});
+    EXPECT_TRUE(frmviewinlet.visible);
     EXPECT_EQ(viewed_text(Inlet_Number), "");
 }
 

@@ -5,63 +5,68 @@
 #include <QTabWidget>
 
 #include "running_program.h"
+#include "support/sqlite_file.h"
 
-namespace gullymark::shell {
+namespace gullymark::testing_support {
 
 inline QMainWindow& workspace() {
-    return testing_support::RunningProgram::window("MDIInlet");
+    return RunningProgram::window("MDIInlet");
 }
 
 inline QLineEdit& line(const char* name) {
-    return testing_support::RunningProgram::line(workspace(), name);
+    return RunningProgram::line(workspace(), name);
 }
 
 inline std::string mode() {
-    return testing_support::RunningProgram::panel(workspace(), "screenmode_panel2");
+    return RunningProgram::panel(workspace(), "screenmode_panel2");
 }
 
 inline int page() {
     return workspace().findChild<QTabWidget*>("SSTab1")->currentIndex();
 }
 
-/// A new project in the workspace.
-struct NewRoad : testing_support::RunningProgram {
+/// Columns of every inlet in the file.
+inline std::string saved(const RunningProgram& program, const std::string& columns) {
+    return run_sql(program.folder.path("road.gmk"), "SELECT " + columns + " FROM INLET");
+}
+
+/// A new project, shown in the workspace.
+struct NewRoad : RunningProgram {
     NewRoad() {
         create_project("road", [](QWidget& form) {
-            testing_support::activate(form);
-            testing_support::type(form, "P-1");
-            testing_support::press(form, Qt::Key_Tab);
-            testing_support::type(form, "Oak Street");
-            testing_support::press(form, Qt::Key_S, Qt::ControlModifier);
+            activate(form);
+            type(form, "P-1");
+            press(form, Qt::Key_Tab);
+            type(form, "Oak Street");
+            press(form, Qt::Key_S, Qt::ControlModifier);
         });
-        testing_support::activate(workspace());
+        activate(workspace());
     }
 
     void leave() {
-        testing_support::activate(workspace());
+        activate(workspace());
         if (mode() != "VIEW") {
             robot.answers.push_back(QMessageBox::Yes);
-            testing_support::press(workspace(), Qt::Key_Q, Qt::ControlModifier);
-            testing_support::activate(workspace());
+            press(workspace(), Qt::Key_Q, Qt::ControlModifier);
+            activate(workspace());
         }
-        testing_support::press(workspace(), Qt::Key_Q, Qt::ControlModifier);
+        press(workspace(), Qt::Key_Q, Qt::ControlModifier);
     }
 };
 
-/// Adds a curb inlet on grade, not yet solved.
-inline void type_curb_inlet() {
-    testing_support::press(workspace(), Qt::Key_N, Qt::ControlModifier);
-    EXPECT_EQ(mode(), "ADD");
-    EXPECT_EQ(QApplication::focusWidget(), &line("Inlet_Number"));
-    testing_support::type(workspace(), "I-1");
-    testing_support::press(workspace(), Qt::Key_Tab);
-    testing_support::type(workspace(), "10+50");
-    testing_support::press(workspace(), Qt::Key_L, Qt::AltModifier);
-    EXPECT_EQ(page(), 1);
-    auto& override_box = *workspace().findChild<QWidget*>("Left_override");
-    testing_support::click(override_box, {8, override_box.height() / 2});
-    testing_support::click(line("discharge1"));
-    testing_support::type(workspace(), "2.5");
+/// Adds, solves and saves the curb inlet I-1 on grade.
+inline void save_a_curb_inlet() {
+    press(workspace(), Qt::Key_N, Qt::ControlModifier);
+    type(workspace(), "I-1");
+    press(workspace(), Qt::Key_Tab);
+    type(workspace(), "10+50");
+    press(workspace(), Qt::Key_L, Qt::AltModifier);
+    line("overland_flow").setFocus();
+    type(workspace(), "2.5");
+    press(workspace(), Qt::Key_F9);
+    press(workspace(), Qt::Key_S, Qt::ControlModifier);
+    activate(workspace());
+    ASSERT_EQ(mode(), "VIEW");
 }
 
-}  // namespace gullymark::shell
+}  // namespace gullymark::testing_support

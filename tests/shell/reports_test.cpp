@@ -10,16 +10,10 @@
 namespace gullymark::shell {
 namespace {
 
+using namespace testing_support;  // NOLINT(google-build-using-namespace): the user of the whole file
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using testing_support::activate;
-using testing_support::choose;
-using testing_support::press;
-using testing_support::read_file;
-using testing_support::RunningProgram;
-using testing_support::settle;
-using testing_support::type;
 
 std::string report_template(const std::string& name) {
     return std::string(GULLYMARK_SOURCE_DIR) + "/resources/reports/" + name;
@@ -33,11 +27,7 @@ struct RoadToPrint : NewRoad {
         for (const std::string name : {"INLET_REPORTAL.xlr", "INLETDESIGNFORMAL.xlr"}) {
             platform::copy_file(report_template(name), folder.path("program/" + name));
         }
-        type_curb_inlet();
-        press(workspace(), Qt::Key_F9);
-        press(workspace(), Qt::Key_S, Qt::ControlModifier);
-        EXPECT_EQ(mode(), "VIEW");
-        activate(workspace());
+        save_a_curb_inlet();
         robot.boxes.clear();
         robot.file_titles.clear();
     }

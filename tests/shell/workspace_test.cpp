@@ -8,7 +8,6 @@
 
 #include "editor/screen_fields.h"
 #include "new_road.h"
-#include "support/sqlite_file.h"
 
 namespace gullymark::shell {
 namespace {
@@ -19,14 +18,29 @@ using testing::ElementsAre;
 using testing_support::activate;
 using testing_support::choose;
 using testing_support::click;
+using testing_support::line;
+using testing_support::mode;
+using testing_support::NewRoad;
+using testing_support::page;
 using testing_support::press;
 using testing_support::RunningProgram;
-using testing_support::settle;
+using testing_support::saved;
 using testing_support::type;
+using testing_support::workspace;
 
-/// Columns of every inlet in the file.
-std::string saved(const RunningProgram& program, const std::string& columns) {
-    return testing_support::run_sql(program.folder.path("road.gmk"), "SELECT " + columns + " FROM INLET");
+void type_curb_inlet() {
+    press(workspace(), Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(mode(), "ADD");
+    EXPECT_EQ(QApplication::focusWidget(), &line("Inlet_Number"));
+    type(workspace(), "I-1");
+    press(workspace(), Qt::Key_Tab);
+    type(workspace(), "10+50");
+    press(workspace(), Qt::Key_L, Qt::AltModifier);
+    EXPECT_EQ(page(), 1);
+    auto& override_box = *workspace().findChild<QWidget*>("Left_override");
+    click(override_box, {8, override_box.height() / 2});
+    click(line("discharge1"));
+    type(workspace(), "2.5");
 }
 
 TEST(Workspace, ARoadFromAnEmptyFolderToASavedInletAndBack) {

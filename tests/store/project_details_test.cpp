@@ -210,6 +210,21 @@ TEST_F(DetailsForm, ASavedNewRowHoldsAllEightTextsAndTheProductsMark) {
     EXPECT_EQ(row["PRODUCT_NAME"], "GULLYMARKAL");
 }
 
+TEST_F(DetailsForm, AColumnThatTheFileLacksIsToldAndTheFormStays) {
+    const std::string path = make_project("a.gmk");
+    testing_support::run_sql(path, "ALTER TABLE PROJECT DROP COLUMN DESIGNER");
+    session.projectFilePath = path;
+    open_database();
+    load_details_form();
+    frmProject.visible = true;
+    user.boxes.clear();
+    type("project_name", "Mill Road East");
+    mnuprojsave_Click();
+    EXPECT_EQ(user.boxes, (Boxes{{BoxKind::plain, "The project has no column DESIGNER."}}));
+    EXPECT_TRUE(frmProject.visible);
+    EXPECT_EQ(stored("a.gmk")["PROJECT_NAME"], "Mill Road");
+}
+
 TEST_F(DetailsForm, ASaveTellsEverybodyAndGoesOnToTheWorkspace) {
     load_on_row();
     type("project_name", "Mill Road East");
