@@ -11,11 +11,26 @@ cd "$(dirname "$0")/.."
 sources=$PWD/resources/reports
 target=$(realpath "${1:-$sources}")
 
+# A conversion takes over nothing of how a sheet is viewed: the sheet's lines are switched off in the workbook itself, by
+# the flag of its one WINDOW2 record (type 0x023E, 18 bytes long, the flags first).
+hide_sheet_lines() {
+  perl -e '
+    my ($path) = @ARGV;
+    open(my $in, "<:raw", $path) or die "$path: $!\n";
+    my $book = do { local $/; <$in> };
+    my $views = $book =~ s/(\x3e\x02\x12\x00)(.)/$1 . chr(ord($2) & ~0x02)/ges;
+    $views == 1 or die "$path has $views views\n";
+    open(my $out, ">:raw", $path) or die "$path: $!\n";
+    print $out $book;
+    close($out) or die "$path: $!\n";' "$1"
+}
+
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 export TZ=UTC LC_ALL=C.UTF-8
 for source in "$sources"/*.fods; do
   timeout 120 soffice "-env:UserInstallation=file://$work/profile" --headless --convert-to xls --outdir "$work" "$source" >/dev/null 2>&1
+  hide_sheet_lines "$work/$(basename "$source" .fods).xls"
   mv "$work/$(basename "$source" .fods).xls" "$target/$(basename "$source" .fods).xlr"
 done
 

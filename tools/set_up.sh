@@ -9,6 +9,7 @@ build_packages=(
   g++ cmake ninja-build
   qt6-base-dev libqt6svg6-dev
   libsqlite3-dev sqlite3
+  libreoffice-calc libreoffice-dev
 )
 run_packages=(
   libqt6svg6 fonts-dejavu-core fonts-liberation2 xdg-utils xchm

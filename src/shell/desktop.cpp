@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
+#include <QEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -105,6 +106,44 @@ void show_wait_pointer(bool waiting) {
     }
 }
 
+/// Stands before the whole program while it waits for something outside.
+class DropInput : public QObject {
+  protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        switch (event->type()) {
+            case QEvent::ShortcutOverride:
+                event->accept();  // then it comes as a plain key, and not as a command
+                return true;
+            case QEvent::KeyPress:
+            case QEvent::KeyRelease:
+            case QEvent::MouseButtonPress:
+            case QEvent::MouseButtonRelease:
+            case QEvent::MouseButtonDblClick:
+            case QEvent::Wheel:
+            case QEvent::ContextMenu:
+            case QEvent::InputMethod:
+            case QEvent::TouchBegin:
+            case QEvent::TouchUpdate:
+            case QEvent::TouchEnd:
+            case QEvent::DragEnter:
+            case QEvent::Drop:
+                return true;
+            case QEvent::Close:
+                event->ignore();
+                return true;
+            default:
+                return false;
+        }
+    }
+};
+
+/// Input that came meanwhile is lost. Kept for later, an impatient second click would print the report again.
+void keep_painting() {
+    DropInput drop;
+    QCoreApplication::instance()->installEventFilter(&drop);
+    QCoreApplication::processEvents();
+}
+
 double time_of_day() {
     return QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
 }
@@ -116,6 +155,7 @@ void attach_to_desktop() {
                          .choose_file = choose_file,
                          .open_help = open_help,
                          .show_wait_pointer = show_wait_pointer,
+                         .keep_painting = keep_painting,
                          .beep = QApplication::beep,
                          .time_of_day = time_of_day};
 }

@@ -10,6 +10,10 @@
 #include "editor/life_cycle.h"
 #include "editor/windows.h"
 #include "editor/workspace.h"
+#include "engine/inlet_record.h"
+#include "platform/files.h"
+#include "platform/spreadsheet_office.h"
+#include "reports/report_writer.h"
 #include "shell/about_box.h"
 #include "shell/desktop.h"
 #include "shell/details_view.h"
@@ -48,8 +52,13 @@ void show_splash() {
     views.splash->paint_now();
 }
 
+std::size_t inlet_count() {
+    return static_cast<std::size_t>(editor::MDIInlet.Adodc1.record_count());
+}
+
 void fill_the_tables() {
     attach_to_desktop();
+    platform::use_office({.program = platform::join_path(platform::program_folder(), "gullymark-office")});
     store::windows.show_splash = show_splash;
     store::windows.unload_splash = [] { views.splash.reset(); };
     store::windows.run_details_form = [] { views.details->run(); };
@@ -60,6 +69,8 @@ void fill_the_tables() {
     editor::windows.move_focus_on = [] { views.workspace->move_focus_on(); };
     editor::windows.run_renumber_dialog = [] { views.renumber->run(); };
     editor::windows.show_standards = show_standards;
+    editor::windows.inlet_report = [] { reports::inlet_report(inlet_count(), engine::open_inlet); };
+    editor::windows.InletDesignForm = [] { reports::InletDesignForm(inlet_count()); };
     store::windows.end_program = [] { std::_Exit(EXIT_SUCCESS); };
 }
 

@@ -1,10 +1,8 @@
 #include <algorithm>
 #include <filesystem>
-#include <map>
-#include <sstream>
 
+#include "reports/cell_table.h"
 #include "reports/report_fixture.h"
-#include "tools/case_table.h"
 
 namespace gullymark::reports {
 namespace {
@@ -13,15 +11,6 @@ using platform::Box;
 using platform::BoxKind;
 using testing_support::read_file;
 using testing_support::write_file;
-
-constexpr const char* combination = "Combination Curb and Grate Inlet";
-
-engine::InletRecord inlet_of_kind(const std::string& type, const std::string& location) {
-    engine::InletRecord inlet;
-    inlet.load(Column::INLET_TYPE, type);
-    inlet.load(Column::INLET_LOCATION, location);
-    return inlet;
-}
 
 struct InletReport : ReportFixture {
     /// Fills a report of one inlet.
@@ -34,74 +23,6 @@ struct InletReport : ReportFixture {
 };
 
 // What stands in the cells.
-
-/// The kinds of the cell table's heading.
-engine::InletRecord inlet_of_kind(const std::string& kind) {
-    const std::map<std::string, std::string> types = {{"curb", "Curb Inlet"},
-                                                      {"slotted", "Slotted Inlet"},
-                                                      {"grate", "Grate Inlet"},
-                                                      {"combination", combination},
-                                                      {"ditch", "Grate Inlet in a Ditch"}};
-    const auto blank = kind.find(' ');
-    return inlet_of_kind(types.at(kind.substr(blank + 1)),
-                         kind.substr(0, blank) == "sump" ? "SUMP" : "CONTINUOUS GRADE");
-}
-
-CellValue project_value(const std::string& source) {
-    const std::map<std::string, CellValue> values = {
-        {"project units", store::session.projectUnits},
-        {"project id", store::session.projectId},
-        {"project name", store::session.projectName},
-        {"project designer", store::session.projectDesigner},
-        {"project county", store::session.projectCounty},
-        {"project state", store::session.projectState},
-        {"today", today},
-    };
-    return values.at(source);
-}
-
-CellValue column_value(const engine::InletRecord& inlet, const std::string& name) {
-    const std::string& text = inlet.text(*engine::column_named(name));
-    const auto read = platform::read_number(text);
-    return read.fault == platform::NumberFault::none ? CellValue(read.number) : CellValue(text);
-}
-
-double term(const engine::InletRecord& inlet, const std::string& name) {
-    return name == "0" ? 0.0 : std::get<double>(column_value(inlet, name));
-}
-
-/// The value of a source of the cell table: "COLUMN", "COLUMN * COLUMN", "COLUMN + COLUMN", "project id", a literal.
-CellValue source_value(const engine::InletRecord& inlet, const std::string& source) {
-    if (source.empty()) {
-        return nothing;
-    }
-    if (source.front() == '"') {
-        return source.substr(1, source.size() - 2);
-    }
-    std::istringstream words(source);
-    std::string left;
-    std::string operation;
-    std::string right;
-    words >> left >> operation >> right;
-    if (operation == "*") {
-        return term(inlet, left) * term(inlet, right);
-    }
-    if (operation == "+") {
-        return term(inlet, left) + term(inlet, right);
-    }
-    return operation.empty() && left != "today" ? column_value(inlet, left) : project_value(source);
-}
-
-const cases::Table& cell_table() {
-    static const cases::Table table =
-        cases::read_table(std::string(GULLYMARK_TEST_DIR) + "/cases/inlet_report_cells.tsv");
-    return table;
-}
-
-platform::CellPosition position(const std::string& cell) {
-    const auto comma = cell.find(',');
-    return {std::stoi(cell.substr(0, comma)), std::stoi(cell.substr(comma + 1))};
-}
 
 struct CellMap : InletReport, testing::WithParamInterface<std::string> {
     /// Every cell as the table tells it, and no other cell written.
@@ -123,12 +44,7 @@ TEST_P(CellMap, EveryCellOfEveryKindHoldsWhatItsTableTells) {
     store::session.projectUnits = GetParam();
     for (std::size_t kind = 1; kind < cell_table().columns.size(); ++kind) {
         const std::string& name = cell_table().columns[kind];
-        engine::InletRecord inlet = inlet_of_kind(name);
-        for (const Column column : engine::all_columns) {
-            if (inlet.is_null(column)) {
-                inlet.load(column, own_number(column));
-            }
-        }
+        const engine::InletRecord inlet = full_inlet_of_kind(name);
         print(inlet);
         expect_cells_of_table(inlet, name);
     }

@@ -54,4 +54,19 @@ struct NewRoad : RunningProgram {
     }
 };
 
+/// Adds, solves and saves the curb inlet I-1 on grade.
+inline void save_a_curb_inlet() {
+    press(workspace(), Qt::Key_N, Qt::ControlModifier);
+    type(workspace(), "I-1");
+    press(workspace(), Qt::Key_Tab);
+    type(workspace(), "10+50");
+    press(workspace(), Qt::Key_L, Qt::AltModifier);
+    line("overland_flow").setFocus();
+    type(workspace(), "2.5");
+    press(workspace(), Qt::Key_F9);
+    press(workspace(), Qt::Key_S, Qt::ControlModifier);
+    activate(workspace());
+    ASSERT_EQ(mode(), "VIEW");
+}
+
 }  // namespace gullymark::testing_support

@@ -6,52 +6,7 @@
 #   typed_road.sh PROGRAM
 set -uo pipefail
 
-program=$1
-work=$(mktemp -d)
-started=()
-finish() {
-  for process in "${started[@]}"; do kill "$process" 2>/dev/null; done
-  wait 2>/dev/null
-  rm -rf "$work"
-}
-trap finish EXIT
-
-fail() {
-  echo "typed_road: $1" >&2
-  xdotool search --onlyvisible --name '.' getwindowname %@ 2>/dev/null | grep . >&2
-  cat "$work/log" >&2
-  exit 1
-}
-
-# A window of that title with the focus, waited for.
-await() {
-  for _ in $(seq 300); do
-    [ "$(xdotool getactivewindow getwindowname 2>/dev/null)" = "$1" ] && sleep 0.3 && return
-    sleep 0.1
-  done
-  fail "no window '$1'"
-}
-press() { for key in "$@"; do xdotool key --delay 40 "$key"; sleep 0.2; done; }
-type_text() { xdotool type --delay 20 "$1"; sleep 0.2; }
-
-start_display() {
-  exec {display_number}<> <(:)
-  Xvfb -displayfd "$display_number" -screen 0 1280x800x24 -nolisten tcp >/dev/null 2>&1 &
-  started+=($!)
-  read -r -t 30 -u "$display_number" number || fail "no virtual display"
-  export DISPLAY=:$number HOME=$work XDG_RUNTIME_DIR=$work LC_ALL=C.UTF-8
-  unset WAYLAND_DISPLAY QT_QPA_PLATFORM
-  chmod 700 "$work"
-  openbox --sm-disable >/dev/null 2>&1 &
-  started+=($!)
-}
-
-start_program() {
-  "$program" >>"$work/log" 2>&1 &
-  running=$!
-  started+=("$running")
-  await Gullymark
-}
+. "$(dirname "$0")/typing.sh"
 
 create_project() {
   press alt+f c
@@ -84,14 +39,6 @@ add_inlet() {
   sleep 0.5
   press Return # Record Saved
   sleep 0.5
-}
-
-leave_program() {
-  press ctrl+q
-  await Gullymark
-  press ctrl+q
-  for _ in $(seq 100); do kill -0 "$running" 2>/dev/null || return 0; sleep 0.1; done
-  fail "the program does not end"
 }
 
 start_display

@@ -59,8 +59,19 @@ class TestOffice {
             command += " " + source;
         }
         command += " >/dev/null 2>&1";
-        if (std::system(command.c_str()) != 0) {
+        if (!run(command)) {
             throw std::runtime_error("the office cannot convert workbooks");
+        }
+    }
+
+    /// Starts it without the program's knowledge, with nothing open; it may not be quite up yet.
+    void start_as_the_user_does() const {
+        const std::string command = "soffice -env:UserInstallation=file://" + path("profile") +
+                                    " --headless --nologo --nodefault >/dev/null 2>&1 &";
+        const std::string ready = path("profile/user");
+        if (!run(command) ||
+            !wait_until([&] { return !processes().empty() && std::filesystem::exists(ready); })) {
+            throw std::runtime_error("the office does not start");
         }
     }
 
@@ -107,6 +118,11 @@ class TestOffice {
     }
 
   private:
+    /// A line for the shell, all of which is the test's own.
+    static bool run(const std::string& command) {
+        return std::system(command.c_str()) == 0;  // NOLINT(cert-env33-c)
+    }
+
     std::string helper_;
     std::filesystem::path folder_;
 };

@@ -98,6 +98,16 @@ TEST_F(OfficeFaults, AWorkbookThatIsNotShownIsClosedInTheUsersOffice) {
     EXPECT_FALSE(office->processes().empty());
 }
 
+TEST_F(OfficeFaults, AnOfficeThatTheUserStartedTakesTheWorkbookAndStays) {
+    office->start_as_the_user_does();
+    EXPECT_EQ(failure_of_opening(), "(no failure)");
+    EXPECT_EQ(failure_of_showing(), "(no failure)");
+    EXPECT_EQ(failure_of_opening(), "(no failure)");
+    use_office(office->settings());
+    EXPECT_TRUE(is_closed());
+    EXPECT_FALSE(office->processes().empty());
+}
+
 TEST_F(OfficeFaults, AnOfficeThatStartsAndDoesNotAnswerIsEnded) {
     set_limit(2s);
     outside.keep_painting = [] { office->send(SIGSTOP); };
@@ -118,7 +128,7 @@ TEST_F(OfficeFaults, TheUsersOfficeThatDoesNotAnswerKeepsNothingOpenWhenItAnswer
 }
 
 TEST_F(OfficeFaults, AnOfficeThatStopsWhileItIsFilledIsAFailure) {
-    set_limit(5s);
+    set_limit(8s);
     static_cast<void>(spreadsheet.open(target, SheetChoice::first));
     office->send(SIGSTOP);
     EXPECT_EQ(failure_of_showing(), "The spreadsheet program does not answer.");

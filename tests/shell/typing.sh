@@ -1,0 +1,60 @@
+# For tests of the built program on a virtual display, driven by typed keys; sourced with the program's path as $1.
+# Everything lies in the folder $work, which is the user's home too, and goes at the end.
+
+program=$1
+work=$(mktemp -d)
+started=()
+finish() {
+  for process in "${started[@]}"; do kill "$process" 2>/dev/null; done
+  wait 2>/dev/null
+  rm -rf "$work"
+}
+trap finish EXIT
+
+fail() {
+  echo "$(basename "$0"): $1" >&2
+  xdotool search --onlyvisible --name '.' getwindowname %@ 2>/dev/null | grep . >&2
+  cat "$work/log" >&2
+  exit 1
+}
+
+# A window of that title with the focus, waited for.
+await() {
+  for _ in $(seq 300); do
+    [ "$(xdotool getactivewindow getwindowname 2>/dev/null)" = "$1" ] && sleep 0.3 && return
+    sleep 0.1
+  done
+  fail "no window '$1'"
+}
+press() { for key in "$@"; do xdotool key --delay 40 "$key"; sleep 0.2; done; }
+type_text() { xdotool type --delay 20 "$1"; sleep 0.2; }
+
+start_display() {
+  exec {display_number}<> <(:)
+  Xvfb -displayfd "$display_number" -screen 0 1280x800x24 -nolisten tcp >/dev/null 2>&1 &
+  started+=($!)
+  read -r -t 30 -u "$display_number" number || fail "no virtual display"
+  export DISPLAY=:$number HOME=$work XDG_RUNTIME_DIR=$work LC_ALL=C.UTF-8
+  unset WAYLAND_DISPLAY QT_QPA_PLATFORM
+  chmod 700 "$work"
+  openbox --sm-disable >/dev/null 2>&1 &
+  started+=($!)
+  # A window that comes before the window manager never gets the focus.
+  for _ in $(seq 100); do xdotool get_num_desktops >/dev/null 2>&1 && return; sleep 0.1; done
+  fail "no window manager"
+}
+
+start_program() {
+  "$program" >>"$work/log" 2>&1 &
+  running=$!
+  started+=("$running")
+  await Gullymark
+}
+
+leave_program() {
+  press ctrl+q
+  await Gullymark
+  press ctrl+q
+  for _ in $(seq 100); do kill -0 "$running" 2>/dev/null || return 0; sleep 0.1; done
+  fail "the program does not end"
+}
