@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# No include reaches from a lower layer into a higher one, Qt stays in the shell, SQLite in the platform.
+# No include reaches from a lower layer into a higher one, Qt stays in the shell, SQLite and the office in the platform.
 cd "$1" || exit 2
 failed=0
 
@@ -15,15 +15,15 @@ forbid() {
 
 qt='Q[A-Za-z]|Qt[A-Z]|ui_'
 forbid platform  "engine/|catalogue/|store/|editor/|reports/|shell/|$qt"
-forbid engine    "catalogue/|store/|editor/|reports/|shell/|sqlite|$qt"
-forbid catalogue "store/|editor/|reports/|shell/|sqlite|$qt"
-forbid store     "engine/|catalogue/|editor/|reports/|shell/|sqlite|$qt"
-forbid editor    "reports/|shell/|sqlite|$qt"
-forbid reports   "editor/|shell/|sqlite|$qt"
+forbid engine    "catalogue/|store/|editor/|reports/|shell/|sqlite|com/sun/star|$qt"
+forbid catalogue "store/|editor/|reports/|shell/|sqlite|com/sun/star|$qt"
+forbid store     "engine/|catalogue/|editor/|reports/|shell/|sqlite|com/sun/star|$qt"
+forbid editor    "reports/|shell/|sqlite|com/sun/star|$qt"
+forbid reports   "editor/|shell/|sqlite|com/sun/star|$qt"
 forbid shell     "sqlite|com/sun/star"
 
 # The link line says the same.
-hits=$(grep -lE 'Qt6::' src/*/CMakeLists.txt | grep -v '^src/shell/'; grep -lE 'SQLite' src/*/CMakeLists.txt | grep -v '^src/platform/')
+hits=$(grep -lE 'Qt6::' src/*/CMakeLists.txt | grep -v '^src/shell/'; grep -lE 'SQLite|LibreOffice' src/*/CMakeLists.txt | grep -v '^src/platform/')
 if [ -n "$hits" ]; then
   printf 'links what it may not know:\n%s\n' "$hits"
   failed=1
