@@ -65,6 +65,39 @@ void check_project(sqlite3* file) {
     }
 }
 
+/// Rolled back unless it is committed.
+class Transaction {
+  public:
+    explicit Transaction(sqlite3* file) : file_(file) { Statement(file_, "BEGIN IMMEDIATE").run(); }
+    ~Transaction() {
+        if (is_under_way()) {
+            sqlite3_exec(file_, "ROLLBACK", nullptr, nullptr, nullptr);
+        }
+    }
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
+
+    /// A failure can have ended it already.
+    void commit() {
+        if (is_under_way()) {
+            Statement(file_, "COMMIT").run();
+        }
+    }
+
+  private:
+    [[nodiscard]] bool is_under_way() const { return sqlite3_get_autocommit(file_) == 0; }
+
+    sqlite3* file_;
+};
+
+void run_part(sqlite3* file, const std::string& statement) {
+    Statement prepared(file, statement);
+    if (prepared.column_count() != 0) {
+        throw Failure("the statement returns rows");
+    }
+    prepared.run();
+}
+
 }  // namespace
 
 Connection::Connection() = default;
@@ -121,13 +154,22 @@ void Connection::execute(const std::string& statement) {
     if (!is_open()) {
         throw Failure("the connection is not open");
     }
-    for (const auto& part : split_alter(statement)) {
-        Statement prepared(handle_->file, part);
-        if (prepared.column_count() != 0) {
-            throw Failure("the statement returns rows");
-        }
-        prepared.run();
+    const auto parts = split_alter(statement);
+    if (parts.size() == 1) {
+        run_part(handle_->file, parts.front());
+        return;
     }
+    // A failing column keeps those before it; a crash keeps none, or the next run would fail on the first of them.
+    Transaction transaction(handle_->file);
+    try {
+        for (const auto& part : parts) {
+            run_part(handle_->file, part);
+        }
+    } catch (const Failure&) {
+        transaction.commit();
+        throw;
+    }
+    transaction.commit();
 }
 
 }  // namespace gullymark::platform
