@@ -3,6 +3,7 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
+umask 022
 tools/set_up.sh build deb
 cmake --preset release >/dev/null
 cmake --build --preset release --target GullymarkAL
