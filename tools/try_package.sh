@@ -42,17 +42,19 @@ make_base() {
 
 inside() { DEBIAN_FRONTEND=noninteractive LC_ALL=C.UTF-8 chroot "$root" "$@" >>"$work/log" 2>&1; }
 
-# The fresh system asks for packages where this machine does, and starts no services.
+# The fresh system asks for packages where this machine does, and starts no services. Its devices are its own: nothing that
+# a package does in there reaches this machine's.
 enter_root() {
   cp -a "$base" "$root"
   rm -f "$root/etc/apt/sources.list"
   cp -r /etc/apt/sources.list* /etc/apt/apt.conf.d "$root/etc/apt"
   cp /etc/resolv.conf "$root/etc"
   cp -l /var/cache/apt/archives/*.deb "$root/var/cache/apt/archives" 2>/dev/null
+  chmod 1777 "$root/dev/shm"
   printf '#!/bin/sh\nexit 101\n' >"$root/usr/sbin/policy-rc.d"
   chmod +x "$root/usr/sbin/policy-rc.d"
   mkdir -p "$shared" "$root$shared"
-  mount -t proc proc "$root/proc" && mount --bind /dev "$root/dev" && mount --bind "$shared" "$root$shared" ||
+  mount -t proc proc "$root/proc" && mount --bind "$shared" "$root$shared" ||
     fail "cannot mount"
   inside useradd --create-home typist || fail "no user"
   cp "$package" "$root/tmp/package.deb"
