@@ -8,7 +8,7 @@ set -euo pipefail
 
 build_packages=(
   g++ cmake ninja-build
-  qt6-base-dev libqt6svg6-dev
+  qt6-base-dev qt6-svg-dev
   libsqlite3-dev sqlite3
   libreoffice-calc libreoffice-dev
 )

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "editor/inlet_form.h"
+#include "engine/unit_constants.h"
 #include "shell/copy_texts.h"
 #include "shell/inlet_items.h"
 #include "shell/turn.h"
@@ -20,8 +21,16 @@ InletFormView::~InletFormView() = default;
 void InletFormView::bind() {
     add_view([this] { carry_out_wishes(); });  // before the binder, which then moves the focus
     binder_ = new Binder(*this, design_form_items());
-    add_view([this] { put_tool_tips(*this); });
+    add_view([this] { follow_units(); });
     add_copying(*this, frminletMDIC.screen);
+}
+
+/// The tips tell units.
+void InletFormView::follow_units() {
+    if (tips_in_ != engine::UnitSystem) {
+        tips_in_ = engine::UnitSystem;
+        put_tool_tips(*this);
+    }
 }
 
 void InletFormView::carry_out_wishes() {

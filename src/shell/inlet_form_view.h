@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <string>
 
 #include <QWidget>
 
@@ -24,9 +26,11 @@ class InletFormView : public QWidget {
 
   private:
     void carry_out_wishes();
+    void follow_units();
 
     std::unique_ptr<Ui::frminletMDIC> ui_;
     Binder* binder_ = nullptr;
+    std::optional<std::string> tips_in_;  // the units that the tool tips tell
 };
 
 }  // namespace gullymark::shell

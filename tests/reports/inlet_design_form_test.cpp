@@ -1,25 +1,13 @@
 #include <array>
-#include <filesystem>
-#include <map>
 
-#include "platform/database.h"
-#include "reports/report_fixture.h"
-#include "store/project_store.h"
-#include "support/sqlite_file.h"
+#include "reports/design_form_fixture.h"
 
 namespace gullymark::reports {
 namespace {
 
 using platform::Box;
 using platform::BoxKind;
-using testing_support::read_file;
 using testing_support::run_sql;
-using testing_support::write_file;
-
-using Texts = std::map<std::string, std::string>;
-
-const Texts on_grade = {{"INLET_TYPE", "Curb Inlet"}, {"INLET_LOCATION", "CONTINUOUS GRADE"}};
-const Texts in_sump = {{"INLET_TYPE", "Curb Inlet"}, {"INLET_LOCATION", "SUMP"}};
 
 Texts with(Texts inlet, const Texts& more) {
     for (const auto& [column, text] : more) {
@@ -39,43 +27,6 @@ Texts with_own_numbers(Texts inlet) {
 double own(Column column) {
     return platform::read_number(own_number(column)).number;
 }
-
-struct DesignForm : ReportFixture {
-    std::string project = user.path("road.gmk");
-
-    DesignForm() {
-        platform::copy_file(GULLYMARK_TEMPLATE, project);
-        store::project_store = {};
-        store::project_store.connection.open(project);
-    }
-    ~DesignForm() override { store::project_store = {}; }
-    DesignForm(const DesignForm&) = delete;
-    DesignForm& operator=(const DesignForm&) = delete;
-
-    void add(const std::string& number, Texts inlet) const {
-        inlet.emplace("INLET_NUMBER", number);
-        std::string columns;
-        std::string values;
-        for (const auto& [column, text] : inlet) {
-            columns += (columns.empty() ? "" : ",") + column;
-            values += (values.empty() ? "'" : ",'") + text + "'";
-        }
-        run_sql(project, "INSERT INTO INLET (" + columns + ") VALUES (" + values + ")");
-    }
-
-    /// Fills a form of the one inlet.
-    void print(const Texts& inlet) {
-        run_sql(project, "DELETE FROM INLET");
-        add("1", inlet);
-        print();
-    }
-    void print() {
-        outside.choices = {target};
-        std::filesystem::remove(target);
-        spreadsheet.cells.clear();
-        InletDesignForm(1);
-    }
-};
 
 // What stands in the cells.
 
@@ -370,87 +321,6 @@ TEST_F(DesignForm, TheRunoffOfASumpAddsItsRightSide) {
     EXPECT_EQ(at(15, 43), CellValue(1.0));
     print(with(in_sump, right));
     EXPECT_EQ(at(15, 43), CellValue(0.75));
-}
-
-// The file and the boxes.
-
-TEST_F(DesignForm, AProjectWithoutInletsIsTold) {
-    InletDesignForm(0);
-    EXPECT_EQ(outside.boxes,
-              (std::vector<Box>{
-                  {BoxKind::information, "No Inlets to Display in Inlet Summary Sheet!", "GullymarkAL"}}));
-    EXPECT_TRUE(outside.requests.empty());
-}
-
-TEST_F(DesignForm, TheDialogAsksForTheFormsName) {
-    InletDesignForm(1);
-    ASSERT_EQ(outside.requests.size(), 1U);
-    const auto& request = outside.requests[0];
-    EXPECT_TRUE(request.saving);
-    EXPECT_EQ(request.file_name, "");
-    EXPECT_EQ(request.filter, "Inlet Design Form files (*.xls)|*.xls");
-    EXPECT_EQ(request.title, "Enter New File Name for Inlet Design Form");
-    EXPECT_EQ(request.initial_folder, program.path());
-}
-
-TEST_F(DesignForm, ACopyOfTheTemplateIsShownOnItsActiveSheetAndTheWorkingFolderStays) {
-    store::session.workingDirectory = program.path();
-    InletDesignForm(1);
-    EXPECT_EQ(read_file(target), "form template");
-    EXPECT_EQ(spreadsheet.opened, std::vector{target});
-    EXPECT_EQ(spreadsheet.shown, std::vector{target});
-    EXPECT_EQ(spreadsheet.sheet, platform::SheetChoice::active);
-    EXPECT_EQ(outside.wait_pointers, (std::vector{true, false}));
-    EXPECT_EQ(store::session.workingDirectory, program.path());
-}
-
-TEST_F(DesignForm, ACancelEndsWithAWarning) {
-    outside.choices.clear();
-    platform::printDlg.cancel_is_error = true;
-    InletDesignForm(1);
-    EXPECT_EQ(outside.boxes, (std::vector<Box>{{BoxKind::warning, "No File Name selected!", "GullymarkAL"}}));
-    EXPECT_TRUE(spreadsheet.opened.empty());
-}
-
-TEST_F(DesignForm, AFileThatExistsIsKeptOnNo) {
-    write_file(target, "old form");
-    InletDesignForm(1);
-    EXPECT_EQ(
-        outside.boxes,
-        (std::vector<Box>{{BoxKind::warning_question, "File Already Exists!   Overwrite?", "GullymarkAL"}}));
-    EXPECT_EQ(read_file(target), "old form");
-    EXPECT_TRUE(spreadsheet.opened.empty());
-}
-
-TEST_F(DesignForm, WithoutAnOpenProjectTheHeaderAloneIsWritten) {
-    store::project_store = {};
-    InletDesignForm(1);
-    EXPECT_EQ(spreadsheet.cells.size(), 5U);
-    EXPECT_TRUE(outside.boxes.empty());
-}
-
-TEST_F(DesignForm, AnInletDeletedMeanwhileIsPassedOver) {
-    add("1", on_grade);
-    add("2", on_grade);
-    add("3", on_grade);
-    platform::spreadsheet.open = [this](const std::string&, platform::SheetChoice choice) {
-        spreadsheet.sheet = choice;
-        run_sql(project, "DELETE FROM INLET WHERE INLET_NUMBER = '2'");
-        return platform::SheetContent();
-    };
-    InletDesignForm(3);
-    EXPECT_EQ(at(15, 1), CellValue(1.0));
-    EXPECT_EQ(at(16, 1), CellValue(3.0));
-    EXPECT_EQ(at(17, 1), nothing);
-}
-
-TEST_F(DesignForm, WithoutASpreadsheetTheCopyIsMadeAndNothingIsShown) {
-    add("O''Neil", on_grade);
-    platform::spreadsheet = {};
-    InletDesignForm(1);
-    EXPECT_EQ(read_file(target), "form template");
-    EXPECT_TRUE(outside.boxes.empty());
-    EXPECT_EQ(outside.wait_pointers, (std::vector{true, false}));
 }
 
 }  // namespace

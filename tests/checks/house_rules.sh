@@ -1,0 +1,30 @@
+#!/usr/bin/env bash
+# What CONTRIBUTING tells of sources and no other check holds: short files, file names, a word on what each header is
+# for, and nothing left for later.
+cd "$1" || exit 2
+failed=0
+complain() {
+  echo "$1"
+  failed=1
+}
+
+sources() {
+  find src tests tools bench fuzz \( -name '*.cpp' -o -name '*.h' -o -name '*.sh' -o -name '*.pl' \) "$@"
+}
+
+while read -r file; do
+  [ "$(wc -l <"$file")" -le 400 ] || complain "$file is longer than 400 lines"
+  base=${file##*/}
+  # The solvers and what they share have prescribed names.
+  [[ $base =~ ^[a-z0-9_]+\.[a-z]+$ || $base =~ ^[A-Z]+(_[A-Z]+)*_RESULTS\.|^Common_Libraries\. ]] ||
+    complain "$file is not named in small letters"
+done < <(sources)
+
+while read -r header; do
+  head -n 1 "$header" | grep -q '^#pragma once$' || complain "$header does not begin with #pragma once"
+  grep -q '^ *///' "$header" || complain "$header does not tell what it is for"
+done < <(sources -path 'src/*' -name '*.h')
+
+later='TO''DO|FIX''ME|XX''X:|HA''CK'
+unfinished=$(grep -nE "\b($later)\b" $(sources)) && complain "left for later: $unfinished"
+exit $failed
