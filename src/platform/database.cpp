@@ -38,11 +38,6 @@ std::string absolute_path(const std::string& path) {
     return path.empty() || error ? "/" : absolute.string();
 }
 
-std::int64_t read_integer(sqlite3* file, std::string_view statement) {
-    Statement query(file, statement);
-    return query.step() ? query.integer(0) : 0;
-}
-
 /// The engine opens a read-only file without a word, and learns only at the first save that it cannot make the
 /// journal beside the file.
 void check_writable(sqlite3* file) {
