@@ -65,6 +65,23 @@ void check_project(sqlite3* file) {
     }
 }
 
+bool is_sound(sqlite3* file) {
+    try {
+        Statement query(file, "PRAGMA integrity_check(1)");
+        return query.step() && query.text(0) == "ok";
+    } catch (const Failure&) {
+        return false;
+    }
+}
+
+void execute_one(sqlite3* file, const std::string& statement) {
+    Statement prepared(file, statement);
+    if (prepared.column_count() != 0) {
+        throw Failure("the statement returns rows");
+    }
+    prepared.run();
+}
+
 }  // namespace
 
 Connection::Connection() = default;
@@ -106,6 +123,21 @@ void Connection::open(const std::string& path) {
     handle_ = std::move(handle);
 }
 
+void Connection::check() {
+    if (!is_sound(open_file())) {
+        refuse_writes();
+        throw Failure(std::string(sqlite3_errstr(SQLITE_CORRUPT)) + ": nothing is stored in it");
+    }
+}
+
+void Connection::refuse_writes() {
+    Statement(open_file(), "PRAGMA query_only = ON").run();
+}
+
+bool Connection::refuses_writes() const {
+    return is_open() && read_integer(handle_->file, "PRAGMA query_only") != 0;
+}
+
 void Connection::close() {
     if (!is_open()) {
         throw Failure("the connection is not open");
@@ -117,16 +149,26 @@ bool Connection::is_open() const {
     return handle_ != nullptr && handle_->file != nullptr;
 }
 
-void Connection::execute(const std::string& statement) {
+sqlite3* Connection::open_file() const {
     if (!is_open()) {
         throw Failure("the connection is not open");
     }
+    return handle_->file;
+}
+
+/// A column that the file has already does not keep the others from being added: an upgrade that was cut short in the
+/// middle comes to its end the next time.
+void Connection::execute(const std::string& statement) {
+    std::optional<Failure> first;
     for (const auto& part : split_alter(statement)) {
-        Statement prepared(handle_->file, part);
-        if (prepared.column_count() != 0) {
-            throw Failure("the statement returns rows");
+        try {
+            execute_one(open_file(), part);
+        } catch (const Failure& failure) {
+            first = first.value_or(failure);
         }
-        prepared.run();
+    }
+    if (first) {
+        throw Failure(*first);
     }
 }
 
