@@ -2,6 +2,7 @@
 
 #include "platform/failure.h"
 #include "store/project_session.h"
+#include "store/project_store.h"
 
 namespace gullymark::editor {
 
@@ -9,6 +10,9 @@ void DataControl::open(const std::string& statement) {
     rows = platform::RowSet();
     connection = platform::Connection();
     connection.open(store::session.projectFilePath);
+    if (store::project_store.connection.refuses_writes()) {
+        connection.refuse_writes();
+    }
     rows.open(connection, statement);
 }
 

@@ -11,7 +11,8 @@ struct DataControl {
     platform::Connection connection;
     platform::RowSet rows;
 
-    /// Connects to the project file and runs `statement`. Throws Failure.
+    /// Connects to the project file and runs `statement`; a file that the store found damaged is only read. Throws
+    /// Failure.
     void open(const std::string& statement);
 
     /// Runs the statement again. Throws Failure.

@@ -72,20 +72,29 @@ class Transaction {
     Transaction(const Transaction&) = delete;
     Transaction& operator=(const Transaction&) = delete;
 
-    /// A failure can have ended it already.
     void commit() {
         if (is_under_way()) {
             Statement(file_, "COMMIT").run();
         }
     }
 
-  private:
+    /// False once a failure has rolled it back.
     [[nodiscard]] bool is_under_way() const { return sqlite3_get_autocommit(file_) == 0; }
 
+  private:
     sqlite3* file_;
 };
 
-void run_part(sqlite3* file, const std::string& statement) {
+bool is_sound(sqlite3* file) {
+    try {
+        Statement query(file, "PRAGMA integrity_check(1)");
+        return query.step() && query.text(0) == "ok";
+    } catch (const Failure&) {
+        return false;
+    }
+}
+
+void execute_one(sqlite3* file, const std::string& statement) {
     Statement prepared(file, statement);
     if (prepared.column_count() != 0) {
         throw Failure("the statement returns rows");
@@ -134,6 +143,21 @@ void Connection::open(const std::string& path) {
     handle_ = std::move(handle);
 }
 
+void Connection::check() {
+    if (!is_sound(open_file())) {
+        refuse_writes();
+        throw Failure(std::string(sqlite3_errstr(SQLITE_CORRUPT)) + ": nothing is stored in it");
+    }
+}
+
+void Connection::refuse_writes() {
+    Statement(open_file(), "PRAGMA query_only = ON").run();
+}
+
+bool Connection::refuses_writes() const {
+    return is_open() && read_integer(handle_->file, "PRAGMA query_only") != 0;
+}
+
 void Connection::close() {
     if (!is_open()) {
         throw Failure("the connection is not open");
@@ -145,26 +169,36 @@ bool Connection::is_open() const {
     return handle_ != nullptr && handle_->file != nullptr;
 }
 
-void Connection::execute(const std::string& statement) {
+sqlite3* Connection::open_file() const {
     if (!is_open()) {
         throw Failure("the connection is not open");
     }
+    return handle_->file;
+}
+
+void Connection::execute(const std::string& statement) {
     const auto parts = split_alter(statement);
     if (parts.size() == 1) {
-        run_part(handle_->file, parts.front());
+        execute_one(open_file(), parts.front());
         return;
     }
-    // A failing column keeps those before it; a crash keeps none, or the next run would fail on the first of them.
-    Transaction transaction(handle_->file);
-    try {
-        for (const auto& part : parts) {
-            run_part(handle_->file, part);
+    // A column that cannot be added does not keep the others from it; a crash in between adds none.
+    Transaction transaction(open_file());
+    std::optional<Failure> first;
+    for (const auto& part : parts) {
+        try {
+            execute_one(open_file(), part);
+        } catch (const Failure& failure) {
+            first = first.value_or(failure);
+            if (!transaction.is_under_way()) {
+                break;
+            }
         }
-    } catch (const Failure&) {
-        transaction.commit();
-        throw;
     }
     transaction.commit();
+    if (first) {
+        throw Failure(*first);
+    }
 }
 
 }  // namespace gullymark::platform

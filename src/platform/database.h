@@ -7,18 +7,23 @@
 #include <string_view>
 #include <vector>
 
+struct sqlite3;
+
 /// The project file as a database: a connection, statements sent as they stand, and row sets over one table.
 /// All values are text or null. Every failure is a Failure with the engine's own description.
 ///
 /// The real adapter is SQLite. Statements come from a smaller dialect than SQLite's in two points, and the adapter
-/// carries them out: `ALTER TABLE t ADD a TEXT(3), b TEXT(10)` adds column by column (those before a failing one
-/// stay), and `[NAME]` quotes a name.
+/// carries them out: `ALTER TABLE t ADD a TEXT(3), b TEXT(10)` adds column by column, each that can be added, and
+/// `[NAME]` quotes a name.
 namespace gullymark::platform {
 
 struct DatabaseHandle;
 
 /// A text or null for each column of a row.
 using Row = std::vector<std::optional<std::string>>;
+
+/// What the engine calls the file beside a project from which it undoes a save that was cut short.
+inline constexpr const char* journal_ending = "-journal";
 
 class Connection {
   public:
@@ -35,18 +40,26 @@ class Connection {
     /// A read-only file, or one in a read-only folder, is a failure too: nothing could be saved in it.
     void open(const std::string& path);
 
+    /// Reads all of the file. Where it is damaged this is a failure, and nothing is stored in it through this
+    /// connection any more: a write could destroy what can still be read.
+    void check();
+    void refuse_writes();
+    [[nodiscard]] bool refuses_writes() const;
+
     /// Fails when the connection is not open.
     void close();
 
     [[nodiscard]] bool is_open() const;
 
-    /// Runs one statement that returns no rows. Text after its end, or a second statement, is a failure.
+    /// Runs one statement that returns no rows. Text after its end, or a second statement, is a failure. Of an ALTER
+    /// with several columns, of which some cannot be added, the first failure.
     void execute(const std::string& statement);
 
     [[nodiscard]] const std::shared_ptr<DatabaseHandle>& handle() const { return handle_; }
 
   private:
     void close_handle();
+    [[nodiscard]] sqlite3* open_file() const;
 
     std::shared_ptr<DatabaseHandle> handle_;
 };
@@ -104,7 +117,8 @@ class RowSet {
     [[nodiscard]] bool adding() const;
     /// Stores `values`, in the order of `columns()`, as the pending new row or into the current row, in one statement
     /// that is carried out whole or not at all. Only columns that differ from what was loaded are written; in a new
-    /// row those that are null take the table's defaults. A row that is no longer in the file is a failure.
+    /// row those that are null take the table's defaults. A row that is no longer in the file is a failure, and so is
+    /// one whose first column, or a column to be written, another program changed since it was read here.
     void save(const Row& values);
     /// Drops the pending new row and goes back to the row that was current before; nothing is written.
     void cancel();

@@ -47,6 +47,11 @@ std::string joined(const std::vector<std::string>& columns, std::string_view aft
     return text;
 }
 
+/// One more condition: the column has the text of a parameter, whatever its kind in a file from elsewhere.
+std::string as_text_is_parameter(const std::string& column) {
+    return " AND CAST(" + quoted_name(column) + " AS TEXT) IS ?";
+}
+
 }  // namespace
 
 /// The position counts from 0; -1 is before the first row and the number of rows behind the last.
@@ -78,6 +83,8 @@ struct RowSet::State {
     [[nodiscard]] Row read(std::int64_t key) const;
     const Row& load();
     void insert(const Row& values);
+    /// Only over what was loaded: another program may have stored another text meanwhile, or deleted the row and
+    /// given its key to a new one, which the first column tells apart.
     void update(const Row& values);
 };
 
@@ -168,26 +175,33 @@ void RowSet::State::update(const Row& values) {
     const Row& old = load();
     std::vector<std::string> columns;
     std::vector<std::size_t> changed;
+    std::string as_loaded = as_text_is_parameter(source.columns.front());
     for (std::size_t column = 0; column < values.size(); ++column) {
         if (values[column] != old[column]) {
             columns.push_back(source.columns[column]);
             changed.push_back(column);
+            as_loaded += as_text_is_parameter(source.columns[column]);
         }
     }
     if (changed.empty()) {
         static_cast<void>(read(key));  // nothing to write, but only a row that is there counts as stored
         return;
     }
-    Statement statement(
-        file(), "UPDATE " + quoted_name(source.table) + " SET " + joined(columns, "=?") + " WHERE rowid = ?");
+    Statement statement(file(), "UPDATE " + quoted_name(source.table) + " SET " + joined(columns, "=?") +
+                                    " WHERE rowid = ?" + as_loaded);
     int parameter = 0;
     for (const auto column : changed) {
         statement.bind(++parameter, values[column]);
     }
     statement.bind(++parameter, key);
+    statement.bind(++parameter, old.front());
+    for (const auto column : changed) {
+        statement.bind(++parameter, old[column]);
+    }
     statement.run();
     if (sqlite3_changes(file()) != 1) {
-        throw Failure("the row is no longer in the file");
+        static_cast<void>(read(key));
+        throw Failure("the row was changed by another program");
     }
     loaded = values;
 }

@@ -68,7 +68,7 @@ void create_project() {
         !platform::ask("File Already Exists!   Overwrite?")) {
         return;
     }
-    platform::copy_file(template_path, session.projectFilePath);
+    platform::copy_file(template_path, session.projectFilePath, {platform::journal_ending});
     const std::string name = take_chosen_folder();
     session.detailsUpdateMode = false;
     platform::show_wait_pointer(true);
@@ -150,6 +150,7 @@ void open_database() {
     try {
         project_store.connection = platform::Connection();
         project_store.connection.open(session.projectFilePath);
+        project_store.connection.check();
     } catch (const platform::Failure& failure) {
         platform::tell(failure.what());
     }

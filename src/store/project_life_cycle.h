@@ -20,7 +20,7 @@ void mnuopenProj_Click();
 void mnucloseProj_Click();
 
 /// Opens a new connection on `projectFilePath`. On failure: a plain box with the description, and the connection is
-/// not open.
+/// not open; for a file that is damaged only in part it is open for reading.
 void open_database();
 
 /// Closes the connection, forgets the project's identifier and name, and unloads the details form and the inlet

@@ -104,6 +104,35 @@ TEST_F(DatabaseFaultsTest, ADamagedPageIsAFailureWhereItIsRead) {
     EXPECT_FALSE(inlets.is_open());
 }
 
+TEST_F(DatabaseFaultsTest, ADamagedFileIsReadAndNeverWrittenOnceItWasChecked) {
+    make_project(1000);
+    std::string content = read_file(path);
+    content.replace(content.size() - 4096, 4096, 4096, '\x55');
+    write_file(path, content);
+    Connection connection;
+    connection.open(path);
+    EXPECT_FALSE(connection.refuses_writes());
+    EXPECT_EQ(failure_text([&] { connection.check(); }),
+              "database disk image is malformed: nothing is stored in it");
+    EXPECT_TRUE(connection.refuses_writes());
+    RowSet inlets;
+    inlets.open(connection, "SELECT * FROM INLET WHERE rowid = 1");
+    EXPECT_EQ(failure_text([&] { inlets.save({"2", "", "", ""}); }), "attempt to write a readonly database");
+    EXPECT_EQ(inlets.value("INLET_NUMBER"), "1");
+    EXPECT_EQ(read_file(path), content);
+}
+
+TEST_F(DatabaseFaultsTest, ASoundFileIsWrittenAfterItWasChecked) {
+    make_project();
+    Connection connection;
+    EXPECT_EQ(failure_text([&] { connection.check(); }), "the connection is not open");
+    connection.open(path);
+    connection.check();
+    EXPECT_FALSE(connection.refuses_writes());
+    connection.execute("UPDATE INLET SET OFFSET = '5'");
+    EXPECT_EQ(run_sql(path, "SELECT OFFSET FROM INLET"), "5");
+}
+
 TEST_F(DatabaseFaultsTest, AFileWithoutTheTablesOpensAndItsStatementsFail) {
     run_sql(path, "PRAGMA application_id = 1196247857; CREATE TABLE OTHER (A TEXT)");
     Connection connection;

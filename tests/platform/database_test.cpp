@@ -107,12 +107,14 @@ TEST_F(ConnectionTest, AlterAddsColumnByColumn) {
               "NULL|NULL|4.5|text");
 }
 
-TEST_F(ConnectionTest, AlterKeepsTheColumnsBeforeAFailingOne) {
-    EXPECT_EQ(failure_text(
-                  [&] { connection.execute("ALTER TABLE INLET ADD A TEXT(3), STATION TEXT(3), B TEXT(3)"); }),
-              "duplicate column name: STATION");
+TEST_F(ConnectionTest, AlterAddsEachColumnThatItCanAndTellsTheFirstFailure) {
+    EXPECT_EQ(
+        failure_text([&] {
+            connection.execute("ALTER TABLE INLET ADD A TEXT(3), STATION TEXT(3), B TEXT(3), OFFSET TEXT(3)");
+        }),
+        "duplicate column name: STATION");
     EXPECT_EQ(query("SELECT group_concat(name) FROM pragma_table_info('INLET')"),
-              "INLET_NUMBER,STATION,OFFSET,PREINLET1,A");
+              "INLET_NUMBER,STATION,OFFSET,PREINLET1,A,B");
 }
 
 TEST_F(ConnectionTest, NoOtherFileCanBeAttached) {

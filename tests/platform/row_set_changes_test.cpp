@@ -78,6 +78,39 @@ TEST_F(RowSetTest, ASaveWritesOnlyTheColumnsThatChanged) {
     EXPECT_EQ(query("SELECT count(*) FROM INLET WHERE OFFSET IS NULL"), "2");
 }
 
+TEST_F(RowSetTest, ATextThatAnotherProgramStoredIsNotOverwritten) {
+    const Row row = inlets.row();
+    run_sql(path, "UPDATE INLET SET STATION = 'elsewhere' WHERE INLET_NUMBER = '1'");
+    Row changed = row;
+    changed[1] = "here";
+    EXPECT_EQ(failure_text([&] { inlets.save(changed); }), "the row was changed by another program");
+    EXPECT_EQ(query("SELECT STATION FROM INLET WHERE INLET_NUMBER = '1'"), "elsewhere");
+    inlets.requery();
+    inlets.save(changed);
+    EXPECT_EQ(query("SELECT STATION FROM INLET WHERE INLET_NUMBER = '1'"), "here");
+}
+
+TEST_F(RowSetTest, ANewRowUnderTheKeyOfADeletedOneIsNotOverwritten) {
+    inlets.find("INLET_NUMBER = '10'");
+    Row changed = inlets.row();
+    const auto key = std::to_string(inlets.bookmark());
+    run_sql(path, "DELETE FROM INLET WHERE rowid = " + key +
+                      "; INSERT INTO INLET (rowid, INLET_NUMBER) VALUES (" + key + ", '77')");
+    changed[3] = "new";
+    EXPECT_EQ(failure_text([&] { inlets.save(changed); }), "the row was changed by another program");
+    EXPECT_EQ(query("SELECT * FROM INLET WHERE rowid = " + key), "77|NULL|NULL|NULL");
+}
+
+TEST_F(RowSetTest, ABlobFromElsewhereCanBeSavedOver) {
+    run_sql(path, "UPDATE INLET SET STATION = x'3130' WHERE INLET_NUMBER = '1'");
+    inlets.requery();
+    Row changed = inlets.row();
+    EXPECT_EQ(changed[1], "10");
+    changed[1] = "11";
+    inlets.save(changed);
+    EXPECT_EQ(query("SELECT STATION FROM INLET WHERE INLET_NUMBER = '1'"), "11");
+}
+
 TEST_F(RowSetTest, ASavedRowCountsAsLoaded) {
     inlets.save({"1", "a", "", ""});
     run_sql(path, "UPDATE INLET SET STATION = 'b' WHERE INLET_NUMBER = '1'");

@@ -1,7 +1,6 @@
 // A save that a crash cuts short: the row is the old one or the new one, never a part of each.
 
 #include <gtest/gtest.h>
-#include <sys/mman.h>
 
 #include <atomic>
 #include <chrono>
@@ -22,23 +21,8 @@ using gullymark::platform::RowSet;
 using gullymark::store::select_inlets;
 using gullymark::testing_support::ChildProcess;
 using gullymark::testing_support::run_sql;
+using gullymark::testing_support::SharedNumber;
 using gullymark::testing_support::TempFolder;
-
-/// A number that this process and its children see, killed or not.
-class SharedNumber {
-  public:
-    SharedNumber()
-        : number_(new (mmap(nullptr, sizeof(std::atomic<int>), PROT_READ | PROT_WRITE,
-                            MAP_SHARED | MAP_ANONYMOUS, -1, 0)) std::atomic<int>(0)) {}
-    ~SharedNumber() { munmap(number_, sizeof(std::atomic<int>)); }
-    SharedNumber(const SharedNumber&) = delete;
-    SharedNumber& operator=(const SharedNumber&) = delete;
-
-    std::atomic<int>& operator*() const { return *number_; }
-
-  private:
-    std::atomic<int>* number_;
-};
 
 /// The same text in every column, so that a part of another row shows. Together they need more than one page.
 Row row_of(int number, std::size_t columns) {

@@ -2,6 +2,7 @@
 
 #include "project_level.h"
 #include "support/child_process.h"
+#include "support/failure_text.h"
 
 namespace gullymark::store {
 namespace {
@@ -115,9 +116,16 @@ TEST_F(BadFile, InAFolderWithoutWritePermission) {
 TEST_F(BadFile, Garbled) {
     copy_kept_file("garbled.gmk");
     open_project("garbled.gmk");
-    // Only its inlets are beyond reading.
-    EXPECT_EQ(user.boxes, (Boxes{{BoxKind::information, "Project Name: Mill Road", "Tarnel Brook"}}));
+    // Only its inlets are beyond reading; nothing is written on top of what is left.
+    EXPECT_EQ(
+        user.boxes,
+        (Boxes{{BoxKind::plain, "database disk image is malformed: nothing is stored in it", "GullymarkAL"},
+               {BoxKind::information, "Project Name: Mill Road", "Tarnel Brook"}}));
     EXPECT_EQ(steps.back(), "workspace");
+    EXPECT_TRUE(project_store.connection.refuses_writes());
+    EXPECT_EQ(testing_support::failure_text(
+                  [] { project_store.connection.execute("UPDATE PROJECT SET STATE = 'GA'"); }),
+              "attempt to write a readonly database");
 }
 
 TEST_F(BadFile, AFolder) {

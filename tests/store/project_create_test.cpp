@@ -1,6 +1,7 @@
 #include "platform/failure.h"
 #include "platform/file_dialog.h"
 #include "project_level.h"
+#include "support/child_process.h"
 #include "support/failure_text.h"
 
 namespace gullymark::store {
@@ -46,6 +47,29 @@ TEST_F(CreateProject, MakesAByteCopyOfTheTemplate) {
     create_project("a.gmk");
     EXPECT_EQ(testing_support::read_file(folder.path("a.gmk")),
               testing_support::read_file(platform::program_folder() + "/GullymarkAL10.rdb"));
+}
+
+TEST_F(CreateProject, IsNotUndoneByTheJournalThatACrashLeftOfAnOldFile) {
+    make_project("a.gmk");
+    const std::string path = folder.path("a.gmk");
+    testing_support::ChildProcess crash([&] {
+        sqlite3* file = nullptr;
+        sqlite3_open(path.c_str(), &file);
+        sqlite3_exec(file,
+                     "PRAGMA cache_size = 1; PRAGMA cache_spill = 1; BEGIN;"
+                     "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 2000)"
+                     " INSERT INTO INLET (INLET_NUMBER) SELECT i FROM n",
+                     nullptr, nullptr, nullptr);
+        _exit(0);
+    });
+    ASSERT_TRUE(crash.wait());
+    ASSERT_TRUE(platform::file_exists(path + "-journal"));
+    user.answers = {Answer::yes};
+    create_project("a.gmk");
+    EXPECT_EQ(testing_support::read_file(path),
+              testing_support::read_file(platform::program_folder() + "/GullymarkAL10.rdb"));
+    EXPECT_FALSE(platform::file_exists(path + "-journal"));
+    EXPECT_TRUE(project_store.connection.is_open());
 }
 
 TEST_F(CreateProject, LeftWithoutSavingKeepsTheProjectOpenWithoutARow) {

@@ -125,13 +125,21 @@ TEST_F(UpgradeProject, RunsAgainAtEveryOpenAndLeavesTheSameFile) {
     EXPECT_EQ(columns("a.gmk", "INLET"), inlet);
 }
 
-TEST_F(UpgradeProject, AColumnThatExistsStopsItsStatementAndNoOther) {
+TEST_F(UpgradeProject, AColumnThatExistsKeepsNoOtherFromBeingAdded) {
     make_old_project("a.gmk", {{"RELEASE_DATE", "AUGUSTL 2007"}, {"MAJOR_RELEASE", "1.0"}});
     run("a.gmk", "ALTER TABLE INLET ADD COLUMN INTENSITY TEXT(10)");
     open_and_close("a.gmk");
-    // Those before the column that exists were added, those behind it not; PROJECT has its six.
-    EXPECT_EQ(added_columns("a.gmk"), 4U + 1U + 6U);
+    EXPECT_EQ(added_columns("a.gmk"), 9U + 6U);
     EXPECT_EQ(stored("a.gmk")["MINOR_RELEASE"], "00");
+}
+
+TEST_F(UpgradeProject, CutShortInTheMiddleComesToItsEndAtTheNextOpen) {
+    make_old_project("a.gmk", {{"RELEASE_DATE", "AUGUSTL 2007"}, {"MAJOR_RELEASE", "1.0"}});
+    run("a.gmk",
+        "ALTER TABLE INLET ADD COLUMN LDISCHARGE_OVERRIDE TEXT(3);"
+        "ALTER TABLE INLET ADD COLUMN RDISCHARGE_OVERRIDE TEXT(3)");
+    open_and_close("a.gmk");
+    EXPECT_EQ(added_columns("a.gmk"), 9U + 6U);
 }
 
 TEST_F(UpgradeProject, OfTheKeptOldFilesTheMisspelledOneIsUpgraded) {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <functional>
@@ -43,13 +45,34 @@ class ChildProcess {
             }
             id_ = 0;
             ended_well_ = WIFEXITED(status) && WEXITSTATUS(status) == 0;
+            signal_ = WIFSIGNALED(status) ? WTERMSIG(status) : 0;
         }
         return ended_well_;
     }
 
+    /// The signal that ended it, after `wait`; 0 when none did.
+    [[nodiscard]] int signal() const { return signal_; }
+
   private:
     pid_t id_;
+    int signal_ = 0;
     bool ended_well_ = false;
+};
+
+/// A number that this process and its children see, killed or not.
+class SharedNumber {
+  public:
+    SharedNumber()
+        : number_(new (mmap(nullptr, sizeof(std::atomic<int>), PROT_READ | PROT_WRITE,
+                            MAP_SHARED | MAP_ANONYMOUS, -1, 0)) std::atomic<int>(0)) {}
+    ~SharedNumber() { munmap(number_, sizeof(std::atomic<int>)); }
+    SharedNumber(const SharedNumber&) = delete;
+    SharedNumber& operator=(const SharedNumber&) = delete;
+
+    std::atomic<int>& operator*() const { return *number_; }
+
+  private:
+    std::atomic<int>* number_;
 };
 
 /// One-way texts between two processes.

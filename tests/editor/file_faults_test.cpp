@@ -1,0 +1,122 @@
+// The project's file is taken away, replaced, locked or changed by another program while it is open. What had been
+// saved stays; a save that fails is not told.
+
+#include "life_cycle_test.h"
+#include "support/child_process.h"
+
+namespace gullymark::editor {
+namespace {
+
+namespace fs = std::filesystem;
+using testing_support::read_file;
+
+struct FileFaults : LifeCycle {
+    static void edit_station(int row, const std::string& station) {
+        edit(row);
+        type(Station, station);
+        solve_and_save();
+    }
+    [[nodiscard]] std::string stations() const {
+        return stored("SELECT INLET_NUMBER, STATION FROM INLET ORDER BY INLET_NUMBER");
+    }
+};
+
+TEST_F(FileFaults, RemovedItIsNotMadeAnew) {
+    fs::remove(path);
+    edit_station(1, "1+00");
+    EXPECT_EQ(boxes().front(), saved);
+    EXPECT_FALSE(fs::exists(path));
+    mnuflexdeleteinlet_Click();
+    mnuviewInlets_Click();
+    mnuExit_Click();
+    EXPECT_FALSE(fs::exists(path));
+}
+
+TEST_F(FileFaults, ItsFolderRemovedTheProgramGoesOn) {
+    fs::remove_all(folder.path());
+    edit_station(1, "1+00");
+    EXPECT_EQ(boxes().front(), saved);
+    mnuExit_Click();
+    EXPECT_FALSE(MDIInlet.visible);
+    EXPECT_FALSE(fs::exists(folder.path()));
+}
+
+TEST_F(FileFaults, ReplacedByAnotherNothingIsWrittenIntoThatOne) {
+    const std::string other = folder.path("other.gmk");
+    testing_support::make_project_file(other);
+    testing_support::put_inlets(other, {{{"INLET_NUMBER", "X"}, {"STATION", "9+00"}}});
+    const std::string content = read_file(other);
+    edit(2);
+    type(Station, "1+00");
+    fs::rename(other, path);
+    solve_and_save();
+    EXPECT_EQ(boxes().front(), saved);
+    EXPECT_EQ(read_file(path), content);
+}
+
+TEST_F(FileFaults, MadeReadOnlyASaveIsWholeAndOfferedAgainAtTheNextOpen) {
+    fs::permissions(path, fs::perms::owner_read);
+    edit_station(1, "1+00");
+    EXPECT_EQ(stations(), "10|1+00\n2|2+00");
+}
+
+TEST_F(FileFaults, LockedASaveIsDroppedAndTheNextOneIsStored) {
+    sqlite3* other = nullptr;
+    sqlite3_open(path.c_str(), &other);
+    sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr);
+    edit_station(1, "1+00");
+    EXPECT_EQ(boxes().front(), saved);
+    sqlite3_close(other);
+    EXPECT_EQ(stations(), "10|NULL\n2|2+00");
+    edit_station(1, "1+00");
+    EXPECT_EQ(stations(), "10|1+00\n2|2+00");
+}
+
+TEST_F(FileFaults, LockedByAProgramThatWasKilledItOpensAsItWas) {
+    testing_support::ChildProcess crash([&] {
+        sqlite3* other = nullptr;
+        sqlite3_open(path.c_str(), &other);
+        sqlite3_exec(other,
+                     "PRAGMA cache_size = 1; BEGIN; UPDATE INLET SET STATION = 'half';"
+                     "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 2000)"
+                     " INSERT INTO INLET (INLET_NUMBER) SELECT i FROM n",
+                     nullptr, nullptr, nullptr);
+        _exit(0);
+    });
+    ASSERT_TRUE(crash.wait());
+    ASSERT_TRUE(fs::exists(path + "-journal"));
+    edit_station(1, "1+00");
+    EXPECT_EQ(stations(), "10|1+00\n2|2+00");
+    EXPECT_FALSE(fs::exists(path + "-journal"));
+}
+
+TEST_F(FileFaults, TwoProgramsThatSaveDifferentInletsKeepBoth) {
+    edit(1);
+    type(Station, "1+00");
+    stored("UPDATE INLET SET STATION = 'other' WHERE INLET_NUMBER = '2'");
+    solve_and_save();
+    EXPECT_EQ(stations(), "10|1+00\n2|other");
+}
+
+TEST_F(FileFaults, OfTwoProgramsThatSaveOneTextTheFirstIsKeptAndThenShown) {
+    edit(1);
+    type(Station, "1+00");
+    stored("UPDATE INLET SET STATION = 'other' WHERE INLET_NUMBER = '10'");
+    solve_and_save();
+    EXPECT_EQ(stations(), "10|other\n2|2+00");
+    EXPECT_EQ(shown(Station), "other");
+    edit_station(1, "1+00");
+    EXPECT_EQ(stations(), "10|1+00\n2|2+00");
+}
+
+TEST_F(FileFaults, AnInletThatAnotherProgramDeletedIsNotSavedIntoTheOneThatTookItsPlace) {
+    edit(2);
+    type(RoadWay, "Side Road");
+    stored("DELETE FROM INLET WHERE INLET_NUMBER = '2'; INSERT INTO INLET (INLET_NUMBER) VALUES ('3')");
+    solve_and_save();
+    EXPECT_EQ(stored("SELECT INLET_NUMBER, STATION, ROADWAY FROM INLET WHERE INLET_NUMBER <> '10'"),
+              "3|NULL|NULL");
+}
+
+}  // namespace
+}  // namespace gullymark::editor

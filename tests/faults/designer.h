@@ -1,0 +1,54 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/outside.h"
+
+/// A designer at the whole program, without its windows: what he does calls what the shell would call. He answers Yes
+/// to every question, and the boxes that he sees are kept.
+namespace gullymark::faults {
+
+class Designer {
+  public:
+    /// Starts the program anew, with its templates beside it in `program_folder`.
+    explicit Designer(const std::string& program_folder);
+    ~Designer();
+    Designer(const Designer&) = delete;
+    Designer& operator=(const Designer&) = delete;
+
+    std::vector<platform::Box> boxes;
+
+    /// Create, overwriting what is there; the details form is left unsaved, or saved with this name.
+    void create(const std::string& path, const std::string& project_name = "");
+    /// Open, to the workspace.
+    void open(const std::string& path);
+    /// The workspace and the project are closed.
+    void close();
+
+    /// Every row: in the grid, on the form, in the listing, in the record view.
+    void look_at_every_row();
+
+    // Commands on the row of the grid, which counts from 1.
+    /// Types `text` into fields of the first page, solves and saves.
+    void edit(int row, const std::string& text);
+    /// Makes a copy of the row under a new number, solves and saves.
+    void copy(int row, const std::string& number);
+    void remove(int row);
+    void renumber(int row, const std::string& number);
+    void save_details(const std::string& project_name);
+    void write_report(const std::string& path);
+
+    [[nodiscard]] static int rows();
+    [[nodiscard]] static std::string number_in(int row);
+
+  private:
+    std::string chosen_path_;
+    std::string project_name_;
+};
+
+/// A project of `inlets` solved inlets "I-000001", "I-000002", ...; each names the one before it as its previous inlet.
+/// Rows that were deleted leave free pages in it, as in a file that was worked in.
+void make_project(const std::string& program_folder, const std::string& path, int inlets);
+
+}  // namespace gullymark::faults
