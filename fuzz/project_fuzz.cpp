@@ -64,6 +64,7 @@ void solve_and_save() {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const fuzz::FileInMemory file;
+    static const auto folder = std::filesystem::current_path();  // the file dialog leaves another one
     file.write({reinterpret_cast<const char*>(data), size});
     set_outside(file.path());
     const std::clock_t started = std::clock();
@@ -73,6 +74,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     solve_and_save();
     editor::mnuExit_Click();
     store::mnucloseProj_Click();
+    std::filesystem::current_path(folder);
     if (std::clock() - started > time_limit) {
         std::fprintf(stderr, "project_fuzz: it took too long\n");
         std::abort();
