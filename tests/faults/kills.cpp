@@ -34,8 +34,8 @@ std::chrono::microseconds time_of(const std::function<void()>& prepare, const st
     *least = std::numeric_limits<int>::max();
     for (int i = 0; i < 5; ++i) {
         prepare();
-        const auto start = Clock::now();
         ChildProcess([&] {
+            const auto start = Clock::now();
             action();
             const auto time = std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - start);
             *least = std::min<int>(*least, static_cast<int>(time.count()));
@@ -49,7 +49,14 @@ bool kill_within(std::chrono::microseconds duration, std::mt19937& random,
                  const std::function<void()>& action) {
     std::uniform_int_distribution<std::int64_t> moment(0, duration.count());
     const auto delay = std::chrono::microseconds(moment(random));
-    ChildProcess child(action);
+    const SharedNumber started;
+    ChildProcess child([&] {
+        while (*started == 0) {
+            std::this_thread::yield();
+        }
+        action();
+    });
+    *started = 1;
     std::this_thread::sleep_for(delay);
     child.kill();
     return !child.wait();

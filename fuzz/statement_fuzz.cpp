@@ -1,0 +1,137 @@
+// Any text as a statement or a condition: the ALTER splitter loses no text between its commas, what it gives back is
+// not split again, a condition that is read says what it read, and a search and a statement with them on a real file
+// end in an answer or a Failure.
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+#include "file_in_memory.h"
+#include "platform/database.h"
+#include "platform/database_statements.h"
+#include "platform/failure.h"
+
+namespace {
+
+using namespace gullymark;
+
+[[noreturn]] void fail(const char* what, std::string_view text) {
+    std::fprintf(stderr, "statement_fuzz: %s: \"%.*s\"\n", what, static_cast<int>(text.size()), text.data());
+    std::abort();
+}
+
+std::string without_blanks(std::string_view text) {
+    std::string plain(text);
+    std::erase_if(plain, [](char letter) {
+        return letter == ' ' || letter == '\t' || letter == '\r' || letter == '\n';
+    });
+    return plain;
+}
+
+/// The parts differ in their columns alone, so that together they are the statement.
+void check_split(std::string_view statement) {
+    const auto parts = platform::split_alter(statement);
+    if (parts.empty() || (parts.size() == 1 && without_blanks(parts[0]) != without_blanks(statement))) {
+        fail("a statement that is not split comes back changed", statement);
+    }
+    std::string together = parts[0];
+    for (std::size_t i = 1; i < parts.size(); ++i) {
+        std::size_t same = 0;
+        while (same < parts[i].size() && same < parts[0].size() && parts[i][same] == parts[0][same]) {
+            ++same;
+        }
+        const auto whole = without_blanks(statement);
+        if (whole.find(without_blanks(parts[i].substr(same))) == std::string::npos) {
+            fail("a part is not of the statement", parts[i]);
+        }
+    }
+    for (const auto& part : parts) {
+        if (platform::split_alter(part).size() != 1) {
+            fail("a part is split again", part);
+        }
+    }
+}
+
+std::string in_quote_marks(std::string_view text) {
+    std::string result = "'";
+    for (const char letter : text) {
+        result += letter;
+        if (letter == '\'') {
+            result += letter;
+        }
+    }
+    return result + "'";
+}
+
+void check_condition(std::string_view text) {
+    const auto condition = platform::read_condition(text);
+    if (!condition || condition->column.find(']') != std::string::npos) {
+        return;
+    }
+    const auto again =
+        platform::read_condition("[" + condition->column + "] = " + in_quote_marks(condition->text));
+    if (again != condition) {
+        fail("a condition says something else when it is written again", text);
+    }
+}
+
+/// A file with two inlets whose numbers are awkward, open for the whole run; nothing of it is stored.
+struct Project {
+    fuzz::FileInMemory file;
+    platform::Connection connection;
+    platform::RowSet rows;
+
+    Project() {
+        file.copy_template();
+        connection.open(file.path());
+        connection.execute("BEGIN");
+        connection.execute("INSERT INTO INLET (INLET_NUMBER) VALUES ('CB-1'), ('O''Neill')");
+        rows.open(connection, "SELECT * FROM INLET ORDER BY INLET_NUMBER");
+    }
+};
+
+template <class Action>
+void try_out(Action action) {
+    try {
+        action();
+    } catch (const platform::Failure&) {  // NOLINT(bugprone-empty-catch): an answer like any other
+    }
+}
+
+void check_on_file(const std::string& text) {
+    static Project project;
+    try_out([&] {
+        project.rows.move_first();
+        project.rows.find(text);
+        const auto condition = platform::read_condition(text);
+        if (!project.rows.at_end() && project.rows.value(condition->column) != condition->text) {
+            fail("a row was found that does not hold", text);
+        }
+    });
+    try_out([&] {
+        platform::RowSet rows;
+        rows.open(project.connection, text);
+        if (rows.record_count() > 0) {
+            static_cast<void>(rows.row());
+        }
+    });
+    if (platform::split_alter(text).size() > 1) {
+        project.connection.execute("SAVEPOINT before");
+        try_out([&] { project.connection.execute(text); });
+        project.connection.execute("ROLLBACK TO before");
+        project.connection.execute("RELEASE before");
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string text(reinterpret_cast<const char*>(data), size);
+    check_split(text);
+    check_condition(text);
+    static_cast<void>(platform::keys_statement(text));
+    check_on_file(text);
+    return 0;
+}
