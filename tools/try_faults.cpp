@@ -43,7 +43,9 @@ bool fill(const Site& site, int steps) {
         good = fill_disk(site, deed, steps).tell() && good;
     }
     good = fill_disk_while_creating(site, steps).tell() && good;
-    return fill_disk_of_report(site, steps).tell() && good;
+    good = fill_disk_of_report(site, steps).tell() && good;
+    unmount_small_disk(site);
+    return good;
 }
 
 bool damage(const Site& site, int times, int seed) {

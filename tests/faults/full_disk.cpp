@@ -149,4 +149,8 @@ bool mount_small_disk(const Site& site) {
            mount("small", folder.c_str(), "tmpfs", 0, ("size=" + std::to_string(disk)).c_str()) == 0;
 }
 
+void unmount_small_disk(const Site& site) {
+    umount2(site.path("work").c_str(), MNT_DETACH);
+}
+
 }  // namespace gullymark::faults
