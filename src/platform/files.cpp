@@ -39,7 +39,7 @@ class OpenFile {
     OpenFile(const OpenFile&) = delete;
     OpenFile& operator=(const OpenFile&) = delete;
 
-    std::size_t read_some(std::span<char> bytes) const {
+    [[nodiscard]] std::size_t read_some(std::span<char> bytes) const {
         return check(read(id_, bytes.data(), bytes.size()));
     }
     void write_all(std::span<const char> bytes) const {

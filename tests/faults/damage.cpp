@@ -9,7 +9,6 @@
 namespace gullymark::faults {
 namespace {
 
-using testing_support::read_file;
 using testing_support::write_file;
 
 constexpr rlim_t most_seconds = 5;
@@ -121,7 +120,7 @@ void compare(const Readable& before, const Readable& after, const Touched& touch
 Outcome damage_bytes(const Site& site, int times, int first_seed) {
     Outcome outcome{.name = "random bytes changed"};
     constexpr int inlets = 20;
-    const std::string whole = read_file(site.path("road.gmk"));
+    const std::string whole = bytes_of(site.path("road.gmk"));
     for (int seed = first_seed; seed < first_seed + times; ++seed) {
         std::mt19937 random(static_cast<unsigned>(seed));
         const auto round = "seed " + std::to_string(seed) + ": ";

@@ -10,19 +10,18 @@
 namespace gullymark::faults {
 namespace {
 
-using testing_support::read_file;
 using testing_support::write_file;
 
 /// Makes the disk full to a degree: a limit of growth, or a number of free pages.
 using Scarcity = std::function<void(const Site& site, int degree)>;
 
 constexpr std::uint64_t page = 4096;
-constexpr std::uint64_t disk = 1024 * 1024;
+constexpr std::uint64_t disk = 256 * page;
 
 /// Holds for this process until it ends: no file grows beyond a limit, from no byte at all to more than it has.
 Scarcity limit_growth(int degrees) {
     return [degrees](const Site& site, int degree) {
-        std::signal(SIGXFSZ, SIG_IGN);
+        static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
         const auto most = std::filesystem::file_size(site.path("road.gmk")) + 4 * page;
         const rlimit limit{most * static_cast<rlim_t>(degree) / static_cast<rlim_t>(degrees), RLIM_INFINITY};
         setrlimit(RLIMIT_FSIZE, &limit);
@@ -86,13 +85,13 @@ Outcome replace_in_every_want(const Site& site, const std::string& name, const s
                               const std::function<void(Designer&)>& before,
                               const std::function<void(Designer&)>& act) {
     Outcome outcome{.name = name};
-    const std::string old = read_file(site.path("road.gmk"));
-    const std::string fresh = read_file(fresh_path);
+    const std::string old = bytes_of(site.path("road.gmk"));
+    const std::string fresh = bytes_of(fresh_path);
     for (int degree = 0; degree < degrees; ++degree) {
         site.begin_anew("");
         std::filesystem::copy_file(site.path("road.gmk"), file);
         act_in_want(site, scarcity, degree, outcome, before, act);
-        const std::string found = read_file(file);
+        const std::string found = bytes_of(file);
         if (found != old && found != fresh) {
             outcome.fail("degree " + std::to_string(degree) + ": the old file is lost, " +
                          std::to_string(found.size()) + " bytes of the new one are there");
@@ -148,6 +147,10 @@ bool mount_small_disk(const Site& site) {
     const std::string folder = site.path("work");
     return unshare(CLONE_NEWNS) == 0 && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
            mount("small", folder.c_str(), "tmpfs", 0, ("size=" + std::to_string(disk)).c_str()) == 0;
+}
+
+void unmount_small_disk(const Site& site) {
+    umount2(site.path("work").c_str(), MNT_DETACH);
 }
 
 }  // namespace gullymark::faults

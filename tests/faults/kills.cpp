@@ -12,7 +12,6 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 using testing_support::ChildProcess;
-using testing_support::read_file;
 using testing_support::SharedNumber;
 
 constexpr int deeds_each = 6;
@@ -86,7 +85,7 @@ std::string kind_after_create(const Site& site, const std::string& old_content, 
     if (!platform::file_exists(site.file())) {
         return "absent";
     }
-    const auto content = read_file(site.file());
+    const auto content = bytes_of(site.file());
     if (content == fresh) {
         return "fresh";
     }
@@ -131,7 +130,7 @@ Outcome kill_while_creating(const Site& site, int times) {
         designer.create(site.file());
     };
     const std::string old_project = site.path("road.gmk");
-    const std::string fresh = read_file(site.program() + "/GullymarkAL10.rdb");
+    const std::string fresh = bytes_of(site.program() + "/GullymarkAL10.rdb");
     const auto duration = time_of([&] { site.begin_anew(""); }, create);
     std::mt19937 random(20100502);
     for (int round = 0; round < times; ++round) {
@@ -139,7 +138,7 @@ Outcome kill_while_creating(const Site& site, int times) {
         site.begin_anew(over_old ? old_project : "");
         outcome.count("runs");
         outcome.count("killed", kill_within(duration, random, create) ? 1 : 0);
-        const auto kind = kind_after_create(site, over_old ? read_file(old_project) : "", fresh);
+        const auto kind = kind_after_create(site, over_old ? bytes_of(old_project) : "", fresh);
         if (kind.empty() || (over_old && kind != "old" && kind != "fresh")) {
             outcome.fail("round " + std::to_string(round) + ": what is found is " +
                          (kind.empty() ? "no project" : kind) + (over_old ? ", over an old one" : ""));

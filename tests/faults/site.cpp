@@ -1,7 +1,9 @@
 #include "faults/site.h"
 
 #include <algorithm>
+#include <fstream>
 #include <iostream>
+#include <sstream>
 
 #include "faults/designer.h"
 #include "support/sqlite_file.h"
@@ -51,6 +53,12 @@ End run_apart(const std::function<void()>& action, rlim_t processor_seconds) {
     return child.wait() ? End::well : child.signal() == SIGXCPU ? End::took_too_long : End::crashed;
 }
 
+std::string bytes_of(const std::string& path) {
+    std::ostringstream bytes;
+    bytes << std::ifstream(path, std::ios::binary).rdbuf();
+    return bytes.str();
+}
+
 std::string content_of(const std::string& path) {
     return testing_support::run_sql(path,
                                     "SELECT sql FROM sqlite_schema; SELECT * FROM PROJECT;"
@@ -91,7 +99,7 @@ bool Outcome::tell() const {
     for (const auto& [what, number] : counts) {
         std::cout << ' ' << number << ' ' << what << (what == counts.back().first ? "" : ",");
     }
-    std::cout << "; " << shortfalls.size() << " fell short\n";
+    std::cout << "; " << shortfalls.size() << " fell short" << std::endl;
     constexpr std::size_t shown = 20;
     for (std::size_t i = 0; i < std::min(shortfalls.size(), shown); ++i) {
         std::cout << "  " << shortfalls[i] << '\n';

@@ -36,6 +36,8 @@ class Site {
 enum class End { well, crashed, took_too_long };
 End run_apart(const std::function<void()>& action, rlim_t processor_seconds = 5);
 
+std::string bytes_of(const std::string& path);
+
 /// Every text of the project and the schema that they stand in.
 std::string content_of(const std::string& path);
 

@@ -24,6 +24,7 @@ Outcome fill_disk_while_creating(const Site& site, int pages);
 Outcome fill_disk_of_report(const Site& site, int pages);
 /// Mounts that disk as the folder of the project, for this process alone; false without the rights.
 bool mount_small_disk(const Site& site);
+void unmount_small_disk(const Site& site);
 
 /// Changes random bytes of a project, opens it, looks at every row, edits, copies and deletes one, `times` times over.
 /// The program must neither crash nor hang, and no row that could be read before and was not touched may be lost.

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
+#include <csignal>
+
 #include "support/child_process.h"
 #include "support/failure_text.h"
 #include "support/outside_double.h"
@@ -67,7 +69,7 @@ TEST_F(CopyFile, ThatFindsNoRoomKeepsTheOldFile) {
     write_file(source, std::string(100'000, 'n'));
     write_file(target, "old");
     testing_support::ChildProcess child([&] {
-        std::signal(SIGXFSZ, SIG_IGN);
+        static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
         const rlimit limit{50'000, RLIM_INFINITY};
         setrlimit(RLIMIT_FSIZE, &limit);
         if (failure_text([&] { copy_file(source, target); }) != "File too large: " + target) {
