@@ -4,6 +4,7 @@
 #include <fstream>
 #include <iostream>
 #include <sstream>
+#include <utility>
 
 #include "faults/designer.h"
 #include "support/sqlite_file.h"
@@ -12,7 +13,7 @@ namespace gullymark::faults {
 
 namespace fs = std::filesystem;
 
-Site::Site(const std::string& root) : root_(root) {
+Site::Site(std::string root) : root_(std::move(root)) {
     fs::create_directories(path("work"));
     fs::create_directories(program());
     for (const char* name : {"GullymarkAL10.rdb", "INLET_REPORTAL.xlr", "INLETDESIGNFORMAL.xlr"}) {

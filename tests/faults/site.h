@@ -15,7 +15,7 @@ namespace gullymark::faults {
 /// The program's folder, a project, and what lies beside it. Everything goes when it ends.
 class Site {
   public:
-    explicit Site(const std::string& root);
+    explicit Site(std::string root);
 
     [[nodiscard]] std::string path(const std::string& name) const { return root_ + "/" + name; }
     [[nodiscard]] std::string program() const { return path("program"); }
