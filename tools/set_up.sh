@@ -3,6 +3,7 @@
 #
 #   tools/set_up.sh build       to build and run the program
 #   tools/set_up.sh build test  to run every test and check as well
+#   tools/set_up.sh build deb   to make the Debian package
 set -euo pipefail
 
 build_packages=(
@@ -18,7 +19,9 @@ test_packages=(
   libgtest-dev libgmock-dev
   clang-format-14 clang-tidy-14
   xvfb xauth openbox xdotool
+  desktop-file-utils appstream shared-mime-info libglib2.0-bin
 )
+deb_packages=(dpkg-dev file)
 bench_packages=(libbenchmark-dev)
 fuzz_packages=(clang-14 libclang-rt-14-dev)
 
@@ -27,9 +30,10 @@ for group in "$@"; do
   case "$group" in
     build) wanted+=("${build_packages[@]}" "${run_packages[@]}") ;;
     test) wanted+=("${test_packages[@]}") ;;
+    deb) wanted+=("${deb_packages[@]}") ;;
     bench) wanted+=("${bench_packages[@]}") ;;
     fuzz) wanted+=("${fuzz_packages[@]}") ;;
-    *) echo "set_up: no group '$group': build, test, bench, fuzz" >&2; exit 2 ;;
+    *) echo "set_up: no group '$group': build, test, deb, bench, fuzz" >&2; exit 2 ;;
   esac
 done
 

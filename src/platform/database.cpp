@@ -38,11 +38,6 @@ std::string absolute_path(const std::string& path) {
     return path.empty() || error ? "/" : absolute.string();
 }
 
-std::int64_t read_integer(sqlite3* file, std::string_view statement) {
-    Statement query(file, statement);
-    return query.step() ? query.integer(0) : 0;
-}
-
 /// The engine opens a read-only file without a word, and learns only at the first save that it cannot make the
 /// journal beside the file.
 void check_writable(sqlite3* file) {
@@ -64,6 +59,31 @@ void check_project(sqlite3* file) {
         throw Failure("this is not a Gullymark project file");
     }
 }
+
+/// Rolled back unless it is committed.
+class Transaction {
+  public:
+    explicit Transaction(sqlite3* file) : file_(file) { Statement(file_, "BEGIN IMMEDIATE").run(); }
+    ~Transaction() {
+        if (is_under_way()) {
+            sqlite3_exec(file_, "ROLLBACK", nullptr, nullptr, nullptr);
+        }
+    }
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
+
+    void commit() {
+        if (is_under_way()) {
+            Statement(file_, "COMMIT").run();
+        }
+    }
+
+    /// False once a failure has rolled it back.
+    [[nodiscard]] bool is_under_way() const { return sqlite3_get_autocommit(file_) == 0; }
+
+  private:
+    sqlite3* file_;
+};
 
 bool is_sound(sqlite3* file) {
     try {
@@ -156,17 +176,26 @@ sqlite3* Connection::open_file() const {
     return handle_->file;
 }
 
-/// A column that the file has already does not keep the others from being added: an upgrade that was cut short in the
-/// middle comes to its end the next time.
 void Connection::execute(const std::string& statement) {
+    const auto parts = split_alter(statement);
+    if (parts.size() == 1) {
+        execute_one(open_file(), parts.front());
+        return;
+    }
+    // A column that cannot be added does not keep the others from it; a crash in between adds none.
+    Transaction transaction(open_file());
     std::optional<Failure> first;
-    for (const auto& part : split_alter(statement)) {
+    for (const auto& part : parts) {
         try {
             execute_one(open_file(), part);
         } catch (const Failure& failure) {
             first = first.value_or(failure);
+            if (!transaction.is_under_way()) {
+                break;
+            }
         }
     }
+    transaction.commit();
     if (first) {
         throw Failure(*first);
     }

@@ -7,13 +7,14 @@
 #include <string_view>
 #include <vector>
 
+struct sqlite3;
+
 /// The project file as a database: a connection, statements sent as they stand, and row sets over one table.
 /// All values are text or null. Every failure is a Failure with the engine's own description.
 ///
 /// The real adapter is SQLite. Statements come from a smaller dialect than SQLite's in two points, and the adapter
-/// carries them out: `ALTER TABLE t ADD a TEXT(3), b TEXT(10)` adds column by column, each that can be added, and `[NAME]` quotes a name.
-struct sqlite3;
-
+/// carries them out: `ALTER TABLE t ADD a TEXT(3), b TEXT(10)` adds column by column, each that can be added, and
+/// `[NAME]` quotes a name.
 namespace gullymark::platform {
 
 struct DatabaseHandle;

@@ -57,6 +57,33 @@ std::optional<std::string> Statement::text(int column) const {
     return std::string(bytes, bytes + sqlite3_column_bytes(statement_, column));
 }
 
+std::int64_t read_integer(sqlite3* file, std::string_view statement) {
+    Statement query(file, statement);
+    return query.step() ? query.integer(0) : 0;
+}
+
+Keys read_keys(Statement& query) {
+    Keys keys;
+    while (query.step()) {
+        keys.push_back(query.integer(0));
+    }
+    return keys;
+}
+
+std::shared_ptr<const Keys> DatabaseHandle::keys_of(const std::string& query) {
+    // Taken before the keys: what another program commits in between is read again the next time.
+    const auto foreign_commits = read_integer(file, "PRAGMA data_version");
+    const auto own_changes = sqlite3_total_changes64(file);
+    const bool unchanged = last_read_.keys != nullptr && last_read_.query == query &&
+                           last_read_.foreign_commits == foreign_commits &&
+                           last_read_.own_changes == own_changes;
+    if (!unchanged) {
+        Statement rows(file, query);
+        last_read_ = {query, foreign_commits, own_changes, std::make_shared<const Keys>(read_keys(rows))};
+    }
+    return last_read_.keys;
+}
+
 std::string quoted_name(std::string_view name) {
     std::string quoted = "\"";
     for (const char letter : name) {

@@ -3,15 +3,27 @@
 #include <sqlite3.h>
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// What the two parts of the database adapter share: the open file, one prepared statement, failures.
 namespace gullymark::platform {
 
 /// Marks a project file of this product in the header of the file: "GMK1". The template carries it, so every copy does.
 inline constexpr std::int64_t project_application_id = 0x474D4B31;
+
+using Keys = std::vector<std::int64_t>;
+
+/// The keys that a query gave, and what stood in the file then.
+struct KeysRead {
+    std::string query;
+    std::int64_t foreign_commits = 0;
+    std::int64_t own_changes = 0;
+    std::shared_ptr<const Keys> keys;
+};
 
 /// The open file. Row sets share it with their connection, which sets it to null when it closes.
 struct DatabaseHandle {
@@ -25,6 +37,13 @@ struct DatabaseHandle {
     DatabaseHandle& operator=(DatabaseHandle&&) = delete;
 
     void close();
+
+    /// The keys of the rows, in the order of `query`. Sets of the same rows share them until the file changes: a
+    /// workspace reads them for three views, and several times at a save.
+    [[nodiscard]] std::shared_ptr<const Keys> keys_of(const std::string& query);
+
+  private:
+    KeysRead last_read_;
 };
 
 /// One statement for as long as it runs. It never outlives a call: an open one would hold a lock on the file and
@@ -59,6 +78,12 @@ class Statement {
     sqlite3* file_;
     sqlite3_stmt* statement_ = nullptr;
 };
+
+/// The number that a statement gives.
+std::int64_t read_integer(sqlite3* file, std::string_view statement);
+
+/// The first column of all rows.
+Keys read_keys(Statement& query);
 
 /// `name` between double quotes, as a statement takes any name.
 std::string quoted_name(std::string_view name);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace gullymark::platform {
 namespace {
@@ -11,9 +12,12 @@ bool is_name_letter(char letter) {
            (letter >= '0' && letter <= '9') || letter == '_' || letter == '$' || (letter & 0x80) != 0;
 }
 
+char capital(char letter) {
+    return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
+}
+
 bool same_word(std::string_view word, std::string_view upper_case) {
-    return std::ranges::equal(word, upper_case,
-                              [](char a, char b) { return (a >= 'a' && a <= 'z' ? a - 'a' + 'A' : a) == b; });
+    return std::ranges::equal(word, upper_case, {}, capital);
 }
 
 /// Goes through a statement piece by piece: a word, a quoted text or name with its quote marks, or one other
@@ -77,6 +81,22 @@ int nesting(std::string_view piece) {
     return piece == "(" ? 1 : piece == ")" ? -1 : 0;
 }
 
+/// What is left, one blank for any number of them and words in capital letters: outside of quote marks the engine
+/// does not tell small letters from capitals.
+std::string in_one_spelling(Pieces& pieces) {
+    std::string text;
+    for (auto before = pieces.at; !pieces.peek().empty(); before = pieces.at) {
+        text += pieces.at == before ? "" : " ";
+        const auto piece = pieces.take();
+        if (is_name_letter(piece.front())) {
+            std::ranges::transform(piece, std::back_inserter(text), capital);
+        } else {
+            text += piece;
+        }
+    }
+    return text;
+}
+
 /// A text between single quote marks, a doubled mark standing for one; nothing when it has no end.
 std::optional<std::string> take_text(Pieces& pieces) {
     if (!pieces.peek().starts_with('\'')) {
@@ -128,7 +148,7 @@ std::optional<std::string> keys_statement(std::string_view select) {
     int depth = 0;
     while (!pieces.peek().empty()) {
         if (depth == 0 && same_word(pieces.peek(), "FROM")) {
-            return "SELECT rowid " + std::string(select.substr(pieces.at));
+            return "SELECT rowid " + in_one_spelling(pieces);
         }
         depth += nesting(pieces.take());
     }

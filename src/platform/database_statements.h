@@ -13,7 +13,8 @@ namespace gullymark::platform {
 /// time. Any other statement comes back as it is.
 std::vector<std::string> split_alter(std::string_view statement);
 
-/// "SELECT list FROM rest" with the keys of the rows in place of the list. Nothing for another statement.
+/// "SELECT list FROM rest" with the keys of the rows in place of the list, in one spelling. Nothing for another
+/// statement.
 std::optional<std::string> keys_statement(std::string_view select);
 
 /// The condition of a search: COLUMN = 'text', where the name may stand in [brackets] and a doubled quote mark

@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <functional>
+#include <memory>
 #include <unordered_map>
 #include <utility>
 
@@ -36,14 +38,6 @@ Source read_source(sqlite3* file, const std::string& statement) {
     return source;
 }
 
-std::vector<std::int64_t> read_keys(Statement& query) {
-    std::vector<std::int64_t> keys;
-    while (query.step()) {
-        keys.push_back(query.integer(0));
-    }
-    return keys;
-}
-
 /// The quoted names, each with `after` behind it, joined by commas.
 std::string joined(const std::vector<std::string>& columns, std::string_view after = "") {
     std::string text;
@@ -65,7 +59,7 @@ struct RowSet::State {
     std::shared_ptr<DatabaseHandle> handle;
     std::string select;
     Source source;
-    std::vector<std::int64_t> keys;
+    std::shared_ptr<const Keys> keys = std::make_shared<const Keys>();
     std::int64_t position = 0;
     bool adding = false;
     std::optional<Row> loaded;  // the current row as it was read
@@ -77,7 +71,9 @@ struct RowSet::State {
         return handle->file;
     }
 
-    [[nodiscard]] std::int64_t count() const { return static_cast<std::int64_t>(keys.size()); }
+    [[nodiscard]] std::int64_t count() const { return static_cast<std::int64_t>(keys->size()); }
+    /// Keys of its own from here on: other sets keep those that they read.
+    void change_keys(const std::function<void(Keys&)>& change);
 
     void run_query();
     /// Goes to a position, or to the end marker beyond which it lies.
@@ -98,10 +94,15 @@ void RowSet::State::run_query() {
     if (!keys_query) {
         throw Failure("a row set is opened on SELECT list FROM table");
     }
-    Statement query(file(), *keys_query);
-    keys = read_keys(query);
+    keys = handle->keys_of(*keys_query);
     source = std::move(new_source);
     go(0);
+}
+
+void RowSet::State::change_keys(const std::function<void(Keys&)>& change) {
+    auto own = std::make_shared<Keys>(*keys);
+    change(*own);
+    keys = std::move(own);
 }
 
 void RowSet::State::go(std::int64_t to) {
@@ -114,7 +115,7 @@ std::int64_t RowSet::State::current_key() const {
     if (adding || position < 0 || position >= count()) {
         throw Failure("there is no current row");
     }
-    return keys[static_cast<std::size_t>(position)];
+    return (*keys)[static_cast<std::size_t>(position)];
 }
 
 std::size_t RowSet::State::index_of(std::string_view column) const {
@@ -165,7 +166,7 @@ void RowSet::State::insert(const Row& values) {
         }
     }
     statement.run();
-    keys.push_back(sqlite3_last_insert_rowid(file()));
+    change_keys([&](Keys& own) { own.push_back(sqlite3_last_insert_rowid(file())); });
     go(count() - 1);
 }
 
@@ -238,7 +239,7 @@ bool RowSet::is_open() const {
 }
 
 std::size_t RowSet::record_count() const {
-    return state().keys.size();
+    return state().keys->size();
 }
 
 const std::vector<std::string>& RowSet::columns() const {
@@ -247,12 +248,12 @@ const std::vector<std::string>& RowSet::columns() const {
 
 bool RowSet::at_beginning() const {
     const auto& set = state();
-    return !set.adding && (set.position < 0 || set.keys.empty());
+    return !set.adding && (set.position < 0 || set.keys->empty());
 }
 
 bool RowSet::at_end() const {
     const auto& set = state();
-    return !set.adding && (set.position >= set.count() || set.keys.empty());
+    return !set.adding && (set.position >= set.count() || set.keys->empty());
 }
 
 void RowSet::move_first() {
@@ -286,8 +287,8 @@ void RowSet::find(const std::string& condition) {
     query.bind(1, searched->text);
     const auto found = read_keys(query);
     const auto is_found = [&](std::int64_t key) { return std::ranges::binary_search(found, key); };
-    const auto start = set.keys.begin() + std::max<std::int64_t>(set.position, 0);
-    set.go(std::find_if(start, set.keys.end(), is_found) - set.keys.begin());
+    const auto start = set.keys->begin() + std::max<std::int64_t>(set.position, 0);
+    set.go(std::find_if(start, set.keys->end(), is_found) - set.keys->begin());
 }
 
 std::int64_t RowSet::bookmark() const {
@@ -296,11 +297,11 @@ std::int64_t RowSet::bookmark() const {
 
 void RowSet::go_to(std::int64_t bookmark) {
     auto& set = state();
-    const auto found = std::ranges::find(set.keys, bookmark);
-    if (found == set.keys.end()) {
+    const auto found = std::ranges::find(*set.keys, bookmark);
+    if (found == set.keys->end()) {
         throw Failure("the bookmarked row is no longer in the set");
     }
-    set.go(found - set.keys.begin());
+    set.go(found - set.keys->begin());
 }
 
 Row RowSet::row() const {
@@ -314,10 +315,10 @@ std::optional<std::string> RowSet::value(std::string_view column) const {
 
 Row RowSet::row_at(std::size_t index) const {
     const auto& set = state();
-    if (index >= set.keys.size()) {
+    if (index >= set.keys->size()) {
         throw Failure("there is no row " + std::to_string(index));
     }
-    return set.read(set.keys[index]);
+    return set.read((*set.keys)[index]);
 }
 
 Row RowSet::all_values(std::string_view column) const {
@@ -326,13 +327,13 @@ Row RowSet::all_values(std::string_view column) const {
     Statement query(set.file(),
                     "SELECT rowid, " + quoted_name(name) + " FROM " + quoted_name(set.source.table));
     std::unordered_map<std::int64_t, std::optional<std::string>> values;
-    values.reserve(set.keys.size());
+    values.reserve(set.keys->size());
     while (query.step()) {
         values.emplace(query.integer(0), query.text(1));
     }
     Row in_order;
-    in_order.reserve(set.keys.size());
-    for (const auto key : set.keys) {
+    in_order.reserve(set.keys->size());
+    for (const auto key : *set.keys) {
         in_order.push_back(std::move(values[key]));
     }
     return in_order;
@@ -373,7 +374,7 @@ void RowSet::remove() {
     if (sqlite3_changes(set.file()) != 1) {
         throw Failure("the row is no longer in the file");
     }
-    set.keys.erase(set.keys.begin() + set.position);
+    set.change_keys([&](Keys& own) { own.erase(own.begin() + set.position); });
     set.go(set.position);
 }
 

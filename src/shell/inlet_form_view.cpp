@@ -14,6 +14,7 @@ using editor::frminletMDIC;
 
 InletFormView::InletFormView(QWidget* parent) : QWidget(parent), ui_(new Ui::frminletMDIC) {
     ui_->setupUi(this);
+    order_tabs(*this);
 }
 
 InletFormView::~InletFormView() = default;

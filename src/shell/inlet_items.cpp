@@ -75,6 +75,10 @@ void add_events(ScreenItem& item, FieldId id) {
     }
 }
 
+QWidget* widget_of(const QWidget& form, FieldId id) {
+    return form.findChild<QWidget*>(QString::fromStdString(std::string(editor::field_name(id))));
+}
+
 }  // namespace
 
 std::vector<ScreenItem> design_form_items() {
@@ -97,10 +101,24 @@ std::vector<ScreenItem> record_view_items() {
     return items;
 }
 
+void order_tabs(QWidget& form) {
+    QWidget* before = nullptr;
+    for (const FieldId id : editor::all_fields) {
+        QWidget* widget = widget_of(form, id);
+        if (widget == nullptr || (widget->focusPolicy() & Qt::TabFocus) == 0) {
+            continue;
+        }
+        if (before != nullptr) {
+            QWidget::setTabOrder(before, widget);
+        }
+        before = widget;
+    }
+}
+
 void put_tool_tips(QWidget& form) {
     for (const FieldId id : editor::all_fields) {
         const auto column = screen_field(id).column;
-        auto* widget = form.findChild<QWidget*>(QString::fromStdString(std::string(editor::field_name(id))));
+        auto* widget = widget_of(form, id);
         if (!column || widget == nullptr) {
             continue;
         }

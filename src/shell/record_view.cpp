@@ -15,6 +15,7 @@ using editor::frmviewinlet;
 
 RecordView::RecordView() : form_(new Ui::frminletMDIC) {
     form_->setupUi(this);
+    order_tabs(*this);
     setObjectName("frmviewinlet");
     new Binder(*this, record_view_items());  // owned by the window
     add_copying(*this, frmviewinlet.screen);

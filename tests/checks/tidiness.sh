@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # clang-tidy over every source that is compiled. A source that was clean and has not changed since, nor any header, is
 # not looked at again.
-# Tests go without the path-sensitive checks: GoogleTest's macros make those take half a minute for a file.
+# Tests and fuzz targets go without the path-sensitive checks: GoogleTest's macros make those take half a minute for a file.
 cd "$1" || exit 2
 build=$2
 stamps=$build/tidy
@@ -12,7 +12,7 @@ export build stamps headers
 look_at() {
   local stamp checks=
   case "$1" in
-    */tests/*) checks='-clang-analyzer-*,-bugprone-*,-cert-*,-misc-*,-modernize-raw-string-literal,-modernize-use-nodiscard' ;;
+    */tests/* | */fuzz/*) checks='-clang-analyzer-*,-bugprone-*,-cert-*,-misc-*,-modernize-raw-string-literal,-modernize-use-nodiscard' ;;
   esac
   stamp=$stamps/$( (echo "$headers"; echo "$1"; cat "$1") | sha256sum | cut -c1-32)
   if [ ! -e "$stamp" ]; then

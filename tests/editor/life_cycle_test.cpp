@@ -71,6 +71,17 @@ TEST_F(LifeCycle, AddShowsTheStoresErrorWhenTheFileIsClosed) {
 
 // Copy.
 
+TEST_F(LifeCycle, CopyShowsTheStoresErrorWhenTheFileIsClosed) {
+    user.answers = {Answer::yes};
+    store::project_store.connection.close();
+    mnuflexcopyinlet_Click();
+    EXPECT_EQ(
+        boxes(),
+        (Boxes{{.kind = BoxKind::information_question, .text = "Copy Inlet -  2 - Data as a New Inlet?"},
+               plain("the connection is not open")}));
+    EXPECT_EQ(mode(), "ADD");
+}
+
 TEST_F(LifeCycle, ACopyTakesTheDataButNoNumberNoPreviousInletsAndNoResults) {
     put_inlets({{{"INLET_NUMBER", "P"}, {"QCARRY", "0.5"}}});
     mnuflexrefresh_Click();

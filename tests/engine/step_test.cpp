@@ -60,6 +60,16 @@ TEST_F(StepRule, TheTraceTellsWhatEachStepDid) {
     EXPECT_EQ(describe(trace[4]), "5  branch entered: unreadable number");
 }
 
+TEST_F(StepRule, TheTraceNamesEveryFault) {
+    EXPECT_EQ(fault_text(Fault::division_by_zero), "division by zero");
+    EXPECT_EQ(fault_text(Fault::overflow), "overflow");
+    EXPECT_EQ(fault_text(Fault::no_real_power), "no real power");
+    EXPECT_EQ(fault_text(Fault::unreadable_number), "unreadable number");
+    EXPECT_EQ(fault_text(Fault::endless_search), "endless search");
+    EXPECT_EQ(fault_text(Fault::tripped), "tripped");
+    EXPECT_EQ(fault_text(Fault::none), "");
+}
+
 TEST_F(StepRule, ATrippedStepFaultsWhateverItsFormula) {
     onlooker.tripped_step = 2;
     Quantity T{"T", Unit::length, "spread", 1.0};

@@ -48,7 +48,7 @@ TEST(SplitAlter, AParenthesisThatNeverClosesKeepsTheStatementWhole) {
 
 TEST(KeysStatement, TheListGivesWayToTheKeys) {
     EXPECT_EQ(keys_statement("SELECT * from PROJECT Order by PROJECT_ID"),
-              "SELECT rowid from PROJECT Order by PROJECT_ID");
+              "SELECT rowid FROM PROJECT ORDER BY PROJECT_ID");
     EXPECT_EQ(
         keys_statement("SELECT INLET_NUMBER AS [INLET_ID],STATION, OFFSET  FROM INLET ORDER BY INLET_NUMBER"),
         "SELECT rowid FROM INLET ORDER BY INLET_NUMBER");
@@ -56,7 +56,12 @@ TEST(KeysStatement, TheListGivesWayToTheKeys) {
 
 TEST(KeysStatement, AFromWithinANameOrAQueryWithinTheListIsPassedOver) {
     EXPECT_EQ(keys_statement("SELECT a AS [COME FROM], (SELECT b FROM c), 'x FROM y', FROM_HERE FROM t"),
-              "SELECT rowid FROM t");
+              "SELECT rowid FROM T");
+}
+
+TEST(KeysStatement, WhatStandsBetweenQuoteMarksStaysAsItIsWritten) {
+    EXPECT_EQ(keys_statement("SELECT * FROM [my table]  WHERE\n\"Name\"='O''b  c'"),
+              "SELECT rowid FROM [my table] WHERE \"Name\"='O''b  c'");
 }
 
 TEST(KeysStatement, NothingForAStatementWithoutASource) {

@@ -226,6 +226,25 @@ TEST_F(RowSetTest, TheSetStaysAsItIsWhileTheFileChanges) {
     EXPECT_EQ(inlets.record_count(), 0U);
 }
 
+TEST_F(RowSetTest, ARequerySeesEveryChangeOfTheFile) {
+    RowSet others;
+    others.open(connection, all_inlets);
+    connection.execute("UPDATE INLET SET INLET_NUMBER = '9' WHERE INLET_NUMBER = '1'");
+    inlets.requery();
+    EXPECT_EQ(inlets.all_values("INLET_NUMBER"), (Row{"10", "2", "9"}));
+    run_sql(path, "UPDATE INLET SET INLET_NUMBER = '0' WHERE INLET_NUMBER = '2'");
+    inlets.requery();
+    EXPECT_EQ(inlets.all_values("INLET_NUMBER"), (Row{"0", "10", "9"}));
+    run_sql(path, "DELETE FROM INLET WHERE INLET_NUMBER = '10'");
+    inlets.requery();
+    EXPECT_EQ(inlets.record_count(), 2U);
+    inlets.remove();
+    EXPECT_EQ(inlets.record_count(), 1U);
+    EXPECT_EQ(others.record_count(), 3U) << "a set keeps the rows that it read";
+    others.requery();
+    EXPECT_EQ(others.all_values("INLET_NUMBER"), Row{"9"});
+}
+
 TEST_F(RowSetTest, ARequeryTakesColumnsThatWereAdded) {
     connection.execute("ALTER TABLE INLET ADD INTENSITY TEXT(10), INTENSITY2 TEXT(10)");
     inlets.requery();

@@ -40,7 +40,7 @@ start_display() {
   openbox --sm-disable >/dev/null 2>&1 &
   started+=($!)
   # A window that comes before the window manager never gets the focus.
-  for _ in $(seq 100); do xdotool get_num_desktops >/dev/null 2>&1 && return; sleep 0.1; done
+  for _ in $(seq 600); do xdotool get_num_desktops >/dev/null 2>&1 && return; sleep 0.1; done
   fail "no window manager"
 }
 
@@ -48,6 +48,11 @@ start_program() {
   "$program" >>"$work/log" 2>&1 &
   running=$!
   started+=("$running")
+  # On a busy machine the window manager can be late: the first window is told to take the focus.
+  for _ in $(seq 300); do
+    xdotool search --onlyvisible --name '^Gullymark$' windowactivate >/dev/null 2>&1 && break
+    sleep 0.1
+  done
   await Gullymark
 }
 
