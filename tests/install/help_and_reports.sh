@@ -36,16 +36,6 @@ await_windows() {
   fail "not $1 windows 'GullymarkAL'"
 }
 
-open_project() {
-  press ctrl+o
-  await Open
-  type_text "$work/road.gmk"
-  press Return
-  await "Tarnel Brook" # Project Name
-  press Return
-  await GullymarkAL
-}
-
 ask_for_help() {
   press F1
   if [ "$beside" = all ]; then

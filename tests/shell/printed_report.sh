@@ -31,16 +31,6 @@ end_office() {
   finish
 }
 
-open_project() {
-  press ctrl+o
-  await Open
-  type_text "$work/road.gmk"
-  press Return
-  await "Tarnel Brook" # Project Name
-  press Return
-  await GullymarkAL
-}
-
 # print_sheet NAME TEMPLATE: names the file in the dialog that is up, waits for the sheet, and goes back to the program.
 print_sheet() {
   type_text "$work/$1"

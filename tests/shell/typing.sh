@@ -56,6 +56,17 @@ start_program() {
   await Gullymark
 }
 
+# The project $work/road.gmk, from the main window to the workspace.
+open_project() {
+  press ctrl+o
+  await Open
+  type_text "$work/road.gmk"
+  press Return
+  await "Tarnel Brook" # Project Name
+  press Return
+  await GullymarkAL
+}
+
 leave_program() {
   press ctrl+q
   await Gullymark
