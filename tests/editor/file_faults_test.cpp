@@ -2,7 +2,7 @@
 // saved stays; a save that fails is not told.
 
 #include "life_cycle_test.h"
-#include "support/child_process.h"
+#include "support/cut_short.h"
 
 namespace gullymark::editor {
 namespace {
@@ -73,17 +73,7 @@ TEST_F(FileFaults, LockedASaveIsDroppedAndTheNextOneIsStored) {
 }
 
 TEST_F(FileFaults, LockedByAProgramThatWasKilledItOpensAsItWas) {
-    testing_support::ChildProcess crash([&] {
-        sqlite3* other = nullptr;
-        sqlite3_open(path.c_str(), &other);
-        sqlite3_exec(other,
-                     "PRAGMA cache_size = 1; BEGIN; UPDATE INLET SET STATION = 'half';"
-                     "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 2000)"
-                     " INSERT INTO INLET (INLET_NUMBER) SELECT i FROM n",
-                     nullptr, nullptr, nullptr);
-        _exit(0);
-    });
-    ASSERT_TRUE(crash.wait());
+    testing_support::cut_a_save_short(path);
     ASSERT_TRUE(fs::exists(path + "-journal"));
     edit_station(1, "1+00");
     EXPECT_EQ(stations(), "10|1+00\n2|2+00");

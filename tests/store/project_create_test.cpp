@@ -1,7 +1,7 @@
 #include "platform/failure.h"
 #include "platform/file_dialog.h"
 #include "project_level.h"
-#include "support/child_process.h"
+#include "support/cut_short.h"
 #include "support/failure_text.h"
 
 namespace gullymark::store {
@@ -52,17 +52,7 @@ TEST_F(CreateProject, MakesAByteCopyOfTheTemplate) {
 TEST_F(CreateProject, IsNotUndoneByTheJournalThatACrashLeftOfAnOldFile) {
     make_project("a.gmk");
     const std::string path = folder.path("a.gmk");
-    testing_support::ChildProcess crash([&] {
-        sqlite3* file = nullptr;
-        sqlite3_open(path.c_str(), &file);
-        sqlite3_exec(file,
-                     "PRAGMA cache_size = 1; PRAGMA cache_spill = 1; BEGIN;"
-                     "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 2000)"
-                     " INSERT INTO INLET (INLET_NUMBER) SELECT i FROM n",
-                     nullptr, nullptr, nullptr);
-        _exit(0);
-    });
-    ASSERT_TRUE(crash.wait());
+    testing_support::cut_a_save_short(path);
     ASSERT_TRUE(platform::file_exists(path + "-journal"));
     user.answers = {Answer::yes};
     create_project("a.gmk");
