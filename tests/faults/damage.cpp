@@ -145,39 +145,4 @@ Outcome damage_bytes(const Site& site, int times, int first_seed) {
     return outcome;
 }
 
-Outcome work_in_many(const Site& site, int inlets) {
-    Outcome outcome{.name = "many inlets"};
-    const std::string path = site.path("many.gmk");
-    make_project(site.program(), path, inlets);
-    const End end = run_apart(
-        [&] {
-            Designer designer(site.program());
-            designer.open(path);
-            if (Designer::rows() != inlets) {
-                throw std::runtime_error("rows are missing");
-            }
-            designer.edit(inlets / 2, "edited");
-            designer.copy(inlets / 2, "C-1");
-            designer.remove(Designer::rows());
-            designer.renumber(2, "A");
-            designer.close();
-        },
-        RLIM_INFINITY - 1);
-    outcome.count("inlets", inlets);
-    if (end != End::well) {
-        outcome.fail("the program does not come to the end of the work");
-    }
-    // The copy takes the station over, and sorts before the rest: the last inlet is the one that was removed.
-    const auto state = testing_support::run_sql(
-        path,
-        "SELECT count(*), sum(STATION = 'edited'), sum(INLET_NUMBER = 'A'), sum(PREINLET1 = 'A') FROM INLET");
-    if (state != std::to_string(inlets) + "|2|1|1") {
-        outcome.fail("the file holds " + state);
-    }
-    if (const auto check = testing_support::run_sql(path, "PRAGMA integrity_check"); check != "ok") {
-        outcome.fail(check);
-    }
-    return outcome;
-}
-
 }  // namespace gullymark::faults

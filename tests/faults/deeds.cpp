@@ -13,7 +13,9 @@ std::string label(const char* word, int number) {
 }
 
 void edit(Designer& designer, const Site& /*site*/, int number) {
-    designer.edit(1 + number % Designer::rows(), label("edited ", number));
+    if (Designer::rows() > 0) {  // nothing is listed any more of a file that was taken away
+        designer.edit(1 + number % Designer::rows(), label("edited ", number));
+    }
 }
 void copy(Designer& designer, const Site& /*site*/, int number) {
     designer.copy(1, label("C-", number));

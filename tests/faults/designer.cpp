@@ -125,12 +125,17 @@ void Designer::look_at_every_row() {
     unload_inlet_list();
 }
 
-void Designer::edit(int row, const std::string& text) {
+void Designer::edit(int row, const std::function<std::string(const std::string& station)>& change) {
     pick_grid_row(row);
     mnuEditinlet_Click();
+    const std::string text = change(frminletMDIC.screen.text(Station));
     type(Station, text);
     type(RoadWay, text);
     solve_and_save();
+}
+
+void Designer::edit(int row, const std::string& text) {
+    edit(row, [&](const std::string& /*station*/) { return text; });
 }
 
 void Designer::copy(int row, const std::string& number) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -32,6 +33,8 @@ class Designer {
     // Commands on the row of the grid, which counts from 1.
     /// Types `text` into fields of the first page, solves and saves.
     void edit(int row, const std::string& text);
+    /// The same with the text that `change` makes of the station.
+    void edit(int row, const std::function<std::string(const std::string& station)>& change);
     /// Makes a copy of the row under a new number, solves and saves.
     void copy(int row, const std::string& number);
     void remove(int row);

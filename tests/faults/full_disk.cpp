@@ -10,9 +10,10 @@
 namespace gullymark::faults {
 namespace {
 
+using testing_support::SharedNumber;
 using testing_support::write_file;
 
-/// Makes the disk full to a degree: a limit of growth, or a number of free pages.
+/// Makes the disk fail to a degree: a limit of growth, a number of free pages, the first call that fails.
 using Scarcity = std::function<void(const Site& site, int degree)>;
 
 constexpr std::uint64_t page = 4096;
@@ -79,6 +80,14 @@ Outcome act_in_every_want(const Site& site, const Deed& deed, const Scarcity& sc
     return outcome;
 }
 
+/// How many calls the undisturbed deed makes.
+int calls_of(const Site& site, const Deed& deed) {
+    const SharedNumber calls;
+    const auto count_all = [&](const Site&, int) { fail_calls_from(0, CallFailure::full, *calls); };
+    static_cast<void>(act_in_every_want(site, deed, count_all, 1));
+    return *calls;
+}
+
 /// A file that is made from a template over an old one is the old one or a whole copy.
 Outcome replace_in_every_want(const Site& site, const std::string& name, const std::string& file,
                               const std::string& fresh_path, const Scarcity& scarcity, int degrees,
@@ -141,6 +150,13 @@ Outcome fill_disk_while_creating(const Site& site, int pages) {
 }
 Outcome fill_disk_of_report(const Site& site, int pages) {
     return named(report_in_every_want(site, leave_free_pages, pages), "full disk");
+}
+
+Outcome fail_each_call(const Site& site, const Deed& deed, CallFailure failure) {
+    const int calls = calls_of(site, deed);
+    const SharedNumber made;
+    const auto fail = [&](const Site&, int degree) { fail_calls_from(degree + 1, failure, *made); };
+    return named(act_in_every_want(site, deed, fail, calls), name_of(failure));
 }
 
 bool mount_small_disk(const Site& site) {

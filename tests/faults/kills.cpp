@@ -1,64 +1,19 @@
 #include <algorithm>
-#include <chrono>
-#include <limits>
-#include <random>
-#include <thread>
 
+#include "faults/moments.h"
 #include "faults/trials.h"
 #include "platform/files.h"
 
 namespace gullymark::faults {
 namespace {
 
-using Clock = std::chrono::steady_clock;
 using testing_support::ChildProcess;
 using testing_support::SharedNumber;
-
-constexpr int deeds_each = 6;
-
-/// Opens and does the deeds; `done` counts what came back, from -1 before the open.
-void do_all(const Site& site, const Deed& deed, std::atomic<int>& done) {
-    Designer designer(site.program());
-    designer.open(site.file());
-    done = 0;
-    for (int number = 0; number < deeds_each; ++number) {
-        deed.act(designer, site, number);
-        ++done;
-    }
-}
-
-/// How long an undisturbed process takes at least, so that the kills fall all over it.
-std::chrono::microseconds time_of(const std::function<void()>& prepare, const std::function<void()>& action) {
-    const SharedNumber least;
-    *least = std::numeric_limits<int>::max();
-    for (int i = 0; i < 5; ++i) {
-        prepare();
-        ChildProcess([&] {
-            const auto start = Clock::now();
-            action();
-            const auto time = std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - start);
-            *least = std::min<int>(*least, static_cast<int>(time.count()));
-        }).wait();
-    }
-    return std::chrono::microseconds(*least);
-}
 
 /// Runs `action` and kills it after a random part of `duration`; true when that was before its end.
 bool kill_within(std::chrono::microseconds duration, std::mt19937& random,
                  const std::function<void()>& action) {
-    std::uniform_int_distribution<std::int64_t> moment(0, duration.count());
-    const auto delay = std::chrono::microseconds(moment(random));
-    const SharedNumber started;
-    ChildProcess child([&] {
-        while (*started == 0) {
-            std::this_thread::yield();
-        }
-        action();
-    });
-    *started = 1;
-    std::this_thread::sleep_for(delay);
-    child.kill();
-    return !child.wait();
+    return !disturb_within(duration, random, action, [](const ChildProcess& child) { child.kill(); });
 }
 
 void judge(const Site& site, const Course& course, int done, Outcome& outcome, const std::string& round) {

@@ -22,6 +22,7 @@ Site::Site(std::string root) : root_(std::move(root)) {
 }
 
 void Site::begin_anew(const std::string& source) const {
+    fs::create_directories(path("work"));
     for (const auto& entry : fs::directory_iterator(path("work"))) {
         fs::remove_all(entry);
     }
