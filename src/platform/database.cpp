@@ -85,12 +85,14 @@ class Transaction {
     sqlite3* file_;
 };
 
+/// A file that cannot be looked at now, for another program saves into it or the memory is used up, is not judged.
 bool is_sound(sqlite3* file) {
     try {
         Statement query(file, "PRAGMA integrity_check(1)");
         return query.step() && query.text(0) == "ok";
     } catch (const Failure&) {
-        return false;
+        const int reason = sqlite3_errcode(file) & 0xff;
+        return reason == SQLITE_BUSY || reason == SQLITE_NOMEM;
     }
 }
 

@@ -41,7 +41,7 @@ class Connection {
     void open(const std::string& path);
 
     /// Reads all of the file. Where it is damaged this is a failure, and nothing is stored in it through this
-    /// connection any more: a write could destroy what can still be read.
+    /// connection any more: a write could destroy what can still be read. A file that is locked right now is not judged.
     void check();
     void refuse_writes();
     [[nodiscard]] bool refuses_writes() const;

@@ -1,5 +1,7 @@
 #include "platform/file_dialog.h"
 
+#include <algorithm>
+#include <cctype>
 #include <filesystem>
 
 #include "platform/failure.h"
@@ -13,6 +15,15 @@ namespace {
 std::string extension_of(const std::string& filter) {
     const auto star = filter.rfind("*.");
     return star == std::string::npos ? std::string() : filter.substr(star + 1);
+}
+
+/// A point and up to four letters or digits, the first a letter: "Sta 12+50.00" and "Main St. east" have none.
+bool has_extension(const std::filesystem::path& path) {
+    const std::string extension = path.extension().string();
+    return extension.size() > 1 && extension.size() <= 5 &&
+           std::isalpha(static_cast<unsigned char>(extension[1])) != 0 &&
+           std::all_of(extension.begin() + 1, extension.end(),
+                       [](unsigned char c) { return std::isalnum(c) != 0; });
 }
 
 void show(FileDialog& dialog, bool saving) {
@@ -30,8 +41,13 @@ void show(FileDialog& dialog, bool saving) {
         return;
     }
     std::filesystem::path path(*chosen);
-    if (saving && path.has_filename() && !path.has_extension()) {
-        path += extension_of(dialog.filter);
+    const std::string extension = extension_of(dialog.filter);
+    if (saving && path.filename() == "*" + extension) {
+        dialog.file_name = "*" + extension;
+        return;
+    }
+    if (saving && path.has_filename() && !has_extension(path)) {
+        path += extension;
     }
     if (path.has_parent_path()) {
         // The name is told below the current folder as the system knows it, also where links led there: flows take

@@ -15,7 +15,8 @@ struct FileDialog {
     bool cancel_is_error = false;
 
     /// Show the dialog and wait. Afterwards `file_name` is the full path chosen and the current folder of the process
-    /// is the folder of that path. A name typed for saving without an extension takes the one of the filter.
+    /// is the folder of that path. A name typed for saving without an extension takes the one of the filter; the bare
+    /// "*.gmk" of the filter, typed as a name, chooses nothing and comes back without a folder.
     /// Throws Failure("Cancel was selected.") on a cancel while `cancel_is_error` is on.
     void show_open();
     void show_save();

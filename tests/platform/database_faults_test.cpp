@@ -122,6 +122,18 @@ TEST_F(DatabaseFaultsTest, ADamagedFileIsReadAndNeverWrittenOnceItWasChecked) {
     EXPECT_EQ(read_file(path), content);
 }
 
+TEST_F(DatabaseFaultsTest, AFileThatIsLockedWhenItIsCheckedIsNotTakenForDamaged) {
+    make_project();
+    Connection connection;
+    connection.open(path);
+    sqlite3* other = nullptr;
+    sqlite3_open(path.c_str(), &other);
+    sqlite3_exec(other, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
+    connection.check();
+    sqlite3_close(other);
+    EXPECT_FALSE(connection.refuses_writes());
+}
+
 TEST_F(DatabaseFaultsTest, ASoundFileIsWrittenAfterItWasChecked) {
     make_project();
     Connection connection;

@@ -56,6 +56,26 @@ TEST(FileDialog, ANameTypedForSavingWithoutAnExtensionTakesTheOneOfTheFilter) {
     EXPECT_EQ(printDlg.file_name, folder.path("c.txt"));
 }
 
+TEST(FileDialog, APointWithinANameTypedForSavingIsNoExtension) {
+    OutsideDouble user;
+    const TempFolder folder;
+    printDlg.filter = filter;
+    for (const char* name : {"Route 5.2", "Sta 12+50.00", "Main St. east", "a.", "a.gmk2010"}) {
+        user.choices = {folder.path(name)};
+        printDlg.show_save();
+        EXPECT_EQ(printDlg.file_name, folder.path(name) + ".gmk");
+    }
+}
+
+TEST(FileDialog, TheBareFilterTypedAsANameForSavingChoosesNothing) {
+    OutsideDouble user;
+    const TempFolder folder;
+    printDlg.filter = filter;
+    user.choices = {folder.path("*.gmk")};
+    printDlg.show_save();
+    EXPECT_EQ(printDlg.file_name, "*.gmk");
+}
+
 TEST(FileDialog, ACancelLeavesTheFileNameUnlessItIsAnError) {
     const OutsideDouble user;
     printDlg.file_name = "before.gmk";

@@ -94,7 +94,7 @@ TEST_F(CreateProject, TheNextDialogStartsInTheFolderThatTheLastOneLeft) {
 TEST_F(CreateProject, NothingChosenIsTold) {
     for (const std::string chosen : {"", "*.gmk"}) {
         forget_steps();
-        user.choices.emplace_back(chosen);
+        user.choices.emplace_back(chosen.empty() ? chosen : folder.path(chosen));
         mnucreateProj_Click();
         EXPECT_EQ(user.boxes, (Boxes{nothing_selected})) << chosen;
         EXPECT_EQ(session.projectFilePath, chosen);
