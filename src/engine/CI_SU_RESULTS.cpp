@@ -44,6 +44,14 @@ struct Sheet {
 
 Sheet sheet;
 
+/// Of a curb opening as a weir, without and with a depression, in ft and m; FHWA HEC-22.
+double weirCoefficientPlain() {
+    return by_units(3.0, 1.6);
+}
+double weirCoefficientDepressed() {
+    return by_units(2.3, 1.25);
+}
+
 void read_flows() {
     auto& s = sheet;
     step(1, s.Q, [] { return number_in(TOTAL_DISCHARGE); });
@@ -88,10 +96,10 @@ void find_weir_depth() {
     step(28, s.h, [&s] { return s.h / unit_constants.depthFactor; });
     if (holds(29, [&s, length_limit] { return s.L > length_limit || s.Wa == 0.0; })) {
         step(30, s.P, [&s] { return s.L; });
-        step(31, s.Cw, [] { return Real(by_units(3.0, 1.6)); });
+        step(31, s.Cw, [] { return Real(weirCoefficientPlain()); });
     } else if (holds(32, [&s] { return s.Wa > 0.0; })) {
         step(33, s.P, [&s] { return s.L + 1.8 * s.Wa; });
-        step(34, s.Cw, [] { return Real(by_units(2.3, 1.25)); });
+        step(34, s.Cw, [] { return Real(weirCoefficientDepressed()); });
     }
     step(35, s.weir_depth, [&s] { return power(s.Q / (s.Cw * s.P), 0.667); });
 }

@@ -37,6 +37,14 @@ struct Sheet {
 
 Sheet sheet;
 
+/// A slot is a weir below the one depth and an orifice above the other, in ft and m; FHWA HEC-22.
+double slotWeirDepth() {
+    return by_units(0.2, 0.06);
+}
+double slotOrificeDepth() {
+    return by_units(0.4, 0.12);
+}
+
 void read_inputs() {
     auto& s = sheet;
     step(1, s.Q, [] { return number_in(TOTAL_DISCHARGE); });
@@ -85,10 +93,10 @@ void find_depths() {
 
 void choose_regime() {
     auto& s = sheet;
-    if (holds(32, [&s] { return s.weir_depth < by_units(0.2, 0.06); })) {
+    if (holds(32, [&s] { return s.weir_depth < slotWeirDepth(); })) {
         step(33, s.D, [&s] { return s.weir_depth; });
         step(34, INLETPERF, [] { return std::string_view("Weir Flow"); });
-    } else if (holds(35, [&s] { return s.weir_depth > by_units(0.4, 0.12); })) {
+    } else if (holds(35, [&s] { return s.weir_depth > slotOrificeDepth(); })) {
         step(36, s.D, [&s] { return s.orifice_depth; });
         step(37, INLETPERF, [] { return std::string_view("Orifice Flow"); });
     } else {

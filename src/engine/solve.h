@@ -11,8 +11,8 @@ inline constexpr const char* invalid_input = "No results computed.  Invalid inpu
 /// True while the open inlet may be saved: a solve ran after its last change.
 extern bool DataSolved;
 
-/// The command SOLVE on the open inlet. A discharge of 0 or below, a text that is none, and a fault that escapes a
-/// solver show a box and change nothing else. Otherwise the inlet is solved, `DataSolved` becomes true whatever the
+/// The command SOLVE on the open inlet. A discharge of 0 or below and a text that is none show a box and change nothing
+/// else; so does a fault that escapes a solver, which leaves the results empty. Otherwise the inlet is solved, `DataSolved` becomes true whatever the
 /// solver did, and the answer is true: the results page is to be shown.
 bool cmdsolve_Click();
 

@@ -15,7 +15,7 @@ struct UnitConstants {
     float depthFactor = 0.0F;            // ft to in, m to mm
     float gravity = 0.0F;                // ft/s2, m/s2; set by the solvers of sumps alone
     int curbLengthLimit = 0;             // ft, m: longest opening that counts as a depressed weir
-    double weirCoefficient = 0.0;        // each solver of a sump or ditch sets its own
+    double weirCoefficient = 0.0;        // the solvers of sumps and ditches set their own
     std::string numberFormat = "0.000";  // of most numbers; the lists and the record view change it too
 };
 

@@ -43,6 +43,14 @@ TEST_F(ComboInSump, TheResultsAreThoseOfTheHandCalculation) {
     EXPECT_NEAR(solved("do"), 0.008, 1e-12);
 }
 
+TEST_F(ComboInSump, AGrateThatIsMoreThanCloggedIsNoCurbOpeningAlone) {
+    // Pe = 7 - 1.1 x 4 = 2.6, Ae = -0.1 x 2.5, dw = (6 / (3 x 2.6))^0.6667 = 0.8395, Ti = (dw - 0.1) / 0.02 + 2.
+    fill({{GRATEPERCLOG, "110"}});
+    EXPECT_EQ(solved(EFFPERI), "2.600");
+    EXPECT_EQ(text(RAREA), "-0.250");
+    EXPECT_EQ(text(OPENSPREAD), "38.976");
+}
+
 TEST_F(ComboInSump, TheThroatDecidesTheDepthOfTheMarch) {
     // Q = 40, h = 14 in, Ae = 0.1, L = 1, tried depth by depth by hand.
     fill({{TOTAL_DISCHARGE, "40"},

@@ -79,6 +79,11 @@ TEST_F(SlotInSump, AWeirDepthOfExactlyAFixedDepthIsTransitionFlow) {
     }
 }
 
+TEST_F(SlotInSump, AnUnreadablePavementSlopeRaisesNothingForItIsNotReadAnew) {
+    fill({{PAVXSLOPE, "abc"}, {INLETXSLOPE, "0.1"}});
+    EXPECT_EQ(solved(INLETXSLOPE), "0.1");
+}
+
 TEST_F(SlotInSump, ABlankInletSlopeIsATenthUnlessThePavementIsSteeper) {
     fill({{INLETXSLOPE, ""}});
     EXPECT_EQ(solved(INLETXSLOPE), "0.1");

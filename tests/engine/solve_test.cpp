@@ -35,6 +35,7 @@ void fill_curb_example() {
 TEST_F(SolveCommand, ADischargeOfZeroOrBelowShowsTheMessageAndLeavesOldResults) {
     for (const auto* discharge : {"0", "-1", "0.000"}) {
         boxes.clear();
+        DataSolved = false;
         open_inlet.load(Column::TOTAL_DISCHARGE, discharge);
         open_inlet.load(Column::QINT, "9.999");
         EXPECT_FALSE(cmdsolve_Click());
@@ -43,6 +44,15 @@ TEST_F(SolveCommand, ADischargeOfZeroOrBelowShowsTheMessageAndLeavesOldResults) 
                                    "Errur"})});
         EXPECT_EQ(open_inlet.text(Column::QINT), "9.999");
         EXPECT_FALSE(DataSolved);
+    }
+}
+
+TEST_F(SolveCommand, ARefusedSolveLeavesASolvedInletSolved) {
+    for (const auto* discharge : {"0", "abc"}) {
+        DataSolved = true;
+        open_inlet.load(Column::TOTAL_DISCHARGE, discharge);
+        EXPECT_FALSE(cmdsolve_Click());
+        EXPECT_TRUE(DataSolved) << discharge;
     }
 }
 
@@ -101,6 +111,10 @@ TEST_F(SolveCommand, TwoColumnsWithTheSameValueCanDifferInDecimals) {
     open_inlet.load(Column::EFFICIENCY, "0.5");
     format_results();
     EXPECT_EQ(open_inlet.text(Column::EFFICIENCY), "0.5000");
+    // The lists and the record view leave another format behind them.
+    unit_constants.numberFormat = "0.000";
+    format_results();
+    EXPECT_EQ(open_inlet.text(Column::EFFICIENCY), "0.500");
 }
 
 TEST_F(SolveCommand, AColumnThatNoSolverWroteStaysEmptyAfterFormatting) {

@@ -56,6 +56,16 @@ TEST_F(DitchOnGrade, AGrateWiderThanTheFlowShowsARatioAboveOne) {
     EXPECT_EQ(text(QCARRY), "0.000");
 }
 
+TEST_F(DitchOnGrade, ARatioAboveOneMakesTheSideTermNegative) {
+    // Rf = 0 of a grate that is not listed: E = Rs (1 - Eo) = 0.5026 (1 - 2.362), and is held at 1 alone.
+    fill({{GRATEWIDTH, "8"}, {TOTAL_DISCHARGE, "2"}, {GRATETYPE, "Unknown"}});
+    EXPECT_EQ(solved(FLOWRATIO), "2.362");
+    EXPECT_EQ(text(SFLOWEFF), "0.5026");
+    EXPECT_EQ(text(EFFICIENCY), "-0.685");
+    EXPECT_EQ(text(QINT), "-1.369");
+    EXPECT_EQ(text(QCARRY), "3.369");
+}
+
 TEST_F(DitchOnGrade, AGrateWithoutLengthTakesNothing) {
     for (const auto* length : {"0", "", "abc"}) {
         fill({{INLETLENGTH, length}, {GRATETYPE, length == std::string_view("0") ? "P-50" : "Unknown"}});
