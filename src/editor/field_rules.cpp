@@ -119,6 +119,7 @@ void inlet_type_LostFocus() {
         SetInletDefaults();
         FillClogList();
         set_slot_in_sump();
+        update_currentstatusbar();
     }
 }
 
@@ -126,6 +127,7 @@ void inlet_location_LostFocus() {
     if (text(inlet_location) != frminletMDIC.kind_at_entry) {
         SetInletDefaults();
         set_slot_in_sump();
+        update_currentstatusbar();
     }
 }
 

@@ -138,10 +138,14 @@ void show_tab(int tab) {
     const int previous = shown;
     shown = tab;
     // A field that goes out of sight is not left, and nothing there can take the focus.
+    drop_focus();
+    SSTab1_Click(previous);
+}
+
+void drop_focus() {
     frminletMDIC.focused.reset();
     frminletMDIC.wanted_focus.reset();
     frminletMDIC.wanted_selection.reset();
-    SSTab1_Click(previous);
 }
 
 }  // namespace gullymark::editor

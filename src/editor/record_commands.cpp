@@ -1,4 +1,5 @@
 #include <array>
+#include <optional>
 
 #include "editor/bound_row.h"
 #include "editor/defaults.h"
@@ -33,16 +34,25 @@ constexpr auto copied_fields = std::to_array<FieldId>({
 });
 // clang-format on
 
+void begin_row() {
+    frminletMDIC.adoInletRS.add_new();
+    load_row(frminletMDIC.adoInletRS, engine::open_inlet);
+    adoInletRS_WillChangeRecord(1);
+}
+
 /// A pending new row behind the last one; the fields are empty.
 void append_row() {
     auto& rows = frminletMDIC.adoInletRS;
-    rows.requery();
-    if (rows.record_count() >= 1) {
-        rows.move_last();
+    try {
+        rows.requery();
+        if (rows.record_count() >= 1) {
+            rows.move_last();
+        }
+    } catch (const platform::Failure&) {
+        begin_row();  // else what is typed now would be saved over the inlet that was shown
+        throw;
     }
-    rows.add_new();
-    load_row(rows, engine::open_inlet);
-    adoInletRS_WillChangeRecord(1);
+    begin_row();
 }
 
 void requery_inlets() {
@@ -61,6 +71,21 @@ void tell_inlet_downstream() {
         tell("Current Inlet has Carryover Discharge to Inlet Number - " + next +
                  "\r\nPlease review the design, solve & save the results for Inlet - " + next,
              BoxKind::information);
+    }
+}
+
+/// After a refused save: the field that the user was in has the focus again, or is left where it went out of sight. Else
+/// a Solve would take its text as it was typed, unformatted and with nothing computed from it.
+void stay_in_or_leave(std::optional<FieldId> field) {
+    if (!field) {
+        return;
+    }
+    const int page = frminletMDIC.screen.tab;
+    frminletMDIC.focused = field;
+    if (screen_field(*field).tab == page) {
+        frminletMDIC.wanted_focus = field;
+    } else if (!leave(*field) && frminletMDIC.screen.tab == page) {
+        drop_focus();
     }
 }
 
@@ -133,14 +158,17 @@ void SetEditRecord() {
 }
 
 void SaveinletRecord() {
+    const auto was_in = frminletMDIC.focused;
     show_tab(3);
     if (text(Inlet_Number).empty()) {
         tell("Inlet number can't be blank.  Please enter a valid unique Inlet Number", BoxKind::warning);
         show_tab(0);
+        stay_in_or_leave(was_in);
         return;
     }
     if (!DataSolved) {
         tell("Data has changed! Please 'Solve' Inlet Analysis before saving");
+        stay_in_or_leave(was_in);
         return;
     }
     UpdateRecord();
