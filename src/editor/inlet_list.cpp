@@ -31,6 +31,7 @@ void load_inlet_list() {
     frminletflex.loaded = true;
     engine::unit_constants.numberFormat = "0.000";
     get_flexinlet_records();
+    ++frminletflex.loads;
     try {
         frminletflex.Adodc1.refresh();
         frminletflex.flexinletRS.requery();
@@ -38,7 +39,6 @@ void load_inlet_list() {
         platform::tell(failure.what());
         return;
     }
-    ++frminletflex.loads;
     if (frminletflex.Adodc1.record_count() >= 1) {
         frminletflex.row = 1;
         if (frminletflex.kept_row == 0) {
@@ -58,10 +58,11 @@ void show_inlet_list() {
         load_inlet_list();
     }
     frminletflex.visible = true;
+    ++frminletflex.shows;
 }
 
 void unload_inlet_list() {
-    frminletflex = {.loads = frminletflex.loads};
+    frminletflex = {.loads = frminletflex.loads, .shows = frminletflex.shows};
 }
 
 void get_flexinlet_records() {

@@ -22,6 +22,7 @@ struct InletList {
     int row = 0;                   // the current row of inletflex, marked whole; 0: none
     std::int16_t kept_row = 0;
     int loads = 0;  // rises whenever the rows were read anew: what was shown is old
+    int shows = 0;  // rises whenever the window was asked for: it comes to the front
     platform::Field rec_count;
     std::string ViewInletNumber;  // the inlet that was picked, and its previous inlets
     std::string ViewPreinlet1;

@@ -92,7 +92,7 @@ void show_inlet_view() {
 
 void unload_inlet_view() {
     frmviewinlet = {};
-    frminletflex.visible = true;
+    show_inlet_list();  // it may have been closed meanwhile
 }
 
 void view_tab_clicked(int tab) {

@@ -129,8 +129,11 @@ void Binder::watch_list(const ScreenItem& item, QWidget& widget) {
     }
     list->setFocusPolicy(Qt::StrongFocus);
     list->setInsertPolicy(QComboBox::NoInsert);
-    if (list->isEditable()) {
+    if (QLineEdit* line = list->lineEdit()) {
         list->setCompleter(nullptr);
+        // The toolkit takes a typed text that is an entry for a pick of it when the focus goes. It was typed.
+        disconnect(line, &QLineEdit::editingFinished, list, nullptr);
+        disconnect(line, &QLineEdit::returnPressed, list, nullptr);
     }
     connect(list, &QComboBox::activated, this, [&item, list](int index) {
         const auto& told = item.picked ? item.picked : item.edited;

@@ -1,6 +1,11 @@
 #include "shell/inlet_grid_view.h"
 
+#include <algorithm>
+#include <array>
+
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
 
 #include "editor/inlet_grid.h"
 #include "editor/workspace.h"
@@ -38,6 +43,34 @@ void InletGridView::currentChanged(const QModelIndex& current, const QModelIndex
     QTableView::currentChanged(current, previous);
     if (current.isValid() && current.row() + 1 != frmgrid.row) {
         handle([&] { editor::pick_grid_row(current.row() + 1); });
+    }
+}
+
+void InletGridView::pick_again(int row_before) {
+    const int row = currentIndex().row();
+    if (row >= 0 && row == row_before) {
+        handle([row] { editor::pick_grid_row(row + 1); });
+    }
+}
+
+void InletGridView::mousePressEvent(QMouseEvent* event) {
+    const int row = currentIndex().row();
+    QTableView::mousePressEvent(event);
+    if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid()) {
+        pick_again(row);
+    }
+}
+
+/// Keys of commands and pages pass: they must not turn the page back.
+void InletGridView::keyPressEvent(QKeyEvent* event) {
+    static constexpr std::array own_keys{Qt::Key_Up,    Qt::Key_Down,   Qt::Key_Left,   Qt::Key_Right,
+                                         Qt::Key_Home,  Qt::Key_End,    Qt::Key_PageUp, Qt::Key_PageDown,
+                                         Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter};
+    const int row = currentIndex().row();
+    QTableView::keyPressEvent(event);
+    if ((event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier &&
+        std::ranges::find(own_keys, event->key()) != own_keys.end()) {
+        pick_again(row);
     }
 }
 

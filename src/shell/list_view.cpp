@@ -21,6 +21,13 @@ void go_to_row(int row) {
     editor::inletflex_Click();
 }
 
+void open_row(const QModelIndex& at) {
+    handle([row = at.row() + 1] {
+        go_to_row(row);
+        editor::inletflex_DblClick();
+    });
+}
+
 }  // namespace
 
 ListView::ListView() : ui_(new Ui::frminletflex) {
@@ -38,7 +45,7 @@ void ListView::build_rows() {
                                  .count = [] { return frminletflex.Adodc1.record_count(); },
                                  .cell = editor::list_cell});
     set_up_rows(*ui_->inletflex, *rows_);
-    // The width of a point follows the screen; a heading that needs more gets it.
+    // The width of a point follows the screen.
     const int column_width = editor::list_column_points * logicalDpiX() / 72;
     for (int column = 0; column < rows_->columnCount({}); ++column) {
         ui_->inletflex->setColumnWidth(column, column_width);
@@ -49,13 +56,13 @@ void ListView::build_rows() {
                     handle([row = now.row() + 1] { go_to_row(row); });
                 }
             });
-    // Double click or Enter.
-    connect(ui_->inletflex, &QTableView::activated, this, [](const QModelIndex& at) {
-        handle([row = at.row() + 1] {
-            go_to_row(row);
-            editor::inletflex_DblClick();
-        });
-    });
+    // Not `activated`: some desktops take one click for it.
+    connect(ui_->inletflex, &QTableView::doubleClicked, this, open_row);
+    auto* enter = new QAction(ui_->inletflex);
+    enter->setShortcuts({Qt::Key_Return, Qt::Key_Enter});
+    enter->setShortcutContext(Qt::WidgetShortcut);
+    connect(enter, &QAction::triggered, this, [this] { open_row(ui_->inletflex->currentIndex()); });
+    ui_->inletflex->addAction(enter);
     ui_->inletflex->viewport()->installEventFilter(this);
 }
 
@@ -69,6 +76,11 @@ void ListView::show_state() {
     mark_row(*ui_->inletflex, frminletflex.row);
     if (isVisible() != frminletflex.visible) {
         setVisible(frminletflex.visible);
+    }
+    if (isVisible() && shows_shown_ != frminletflex.shows) {
+        shows_shown_ = frminletflex.shows;
+        raise();
+        activateWindow();
     }
 }
 

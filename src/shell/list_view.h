@@ -30,6 +30,7 @@ class ListView : public QMainWindow {
     std::unique_ptr<Ui::frminletflex> ui_;
     RowsModel* rows_ = nullptr;
     int loads_shown_ = 0;
+    int shows_shown_ = 0;
 };
 
 }  // namespace gullymark::shell

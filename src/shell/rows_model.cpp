@@ -78,9 +78,10 @@ void mark_row(QTableView& table, int row) {
         return;
     }
     const QModelIndex index = table.model()->index(row - 1, 0);
+    const bool in_sight = table.viewport()->rect().contains(table.visualRect(index).center());
     table.setCurrentIndex(index);
-    if (index.isValid()) {
-        table.scrollTo(index);
+    if (index.isValid() && !in_sight) {
+        table.scrollTo(index, QAbstractItemView::PositionAtTop);
     }
 }
 

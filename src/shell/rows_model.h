@@ -38,7 +38,7 @@ class RowsModel : public QAbstractTableModel {
 /// A table that marks whole rows, shows a model and copies the marked row as text.
 void set_up_rows(QTableView& table, RowsModel& model);
 
-/// Marks the logic's row, in view; 0 marks none.
+/// Marks the logic's row, 0 for none; one that is out of sight becomes the first one shown.
 void mark_row(QTableView& table, int row);
 
 }  // namespace gullymark::shell

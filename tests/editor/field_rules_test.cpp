@@ -240,11 +240,11 @@ TEST_F(FieldRules, ALonePointOfCloggingBecomesZeroAndKeepsTheResults) {
 
 TEST_F(FieldRules, TheSignOfTheOffsetFollowsItsSide) {
     pick(offset_location, "LEFT");
-    EXPECT_EQ(typed(offset, "-5"), "-5.000") << "the key of the minus sign is dropped, the side makes it";
+    EXPECT_EQ(typed(offset, "-5-2"), "-52.000") << "the key of the minus sign is dropped, the side makes it";
     pick(offset_location, "RIGHT");
-    EXPECT_EQ(shown(offset), "5.000");
+    EXPECT_EQ(shown(offset), "52.000");
     pick(offset_location, "LEFT");
-    EXPECT_EQ(shown(offset), "-5.000");
+    EXPECT_EQ(shown(offset), "-52.000");
 }
 
 TEST_F(MetricFieldRules, TheOffsetHasFourDecimalsInMetricUnits) {

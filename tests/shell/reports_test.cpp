@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <QTableView>
 
 #include "new_road.h"
 #include "platform/spreadsheet.h"
@@ -61,6 +62,19 @@ TEST(Reports, PrintReportFillsACopyOfItsTemplateWithTheCurrentInlet) {
     EXPECT_THAT(read_file(road.said), HasSubstr("\ntext\t8\t2\tI-1\n"));
     EXPECT_THAT(read_file(road.said), HasSubstr("\ntext\t9\t2\tCurb Inlet\n"));
     EXPECT_THAT(read_file(road.said), testing::EndsWith("\nshow\n"));
+}
+
+TEST(Reports, PrintReportPrintsTheInletThatIsPickedInTheGrid) {
+    RoadToPrint road;
+    road.play_office("0");
+    run_sql(road.folder.path("road.gmk"), "INSERT INTO INLET (INLET_NUMBER) VALUES ('I-2'), ('I-3')");
+    press(workspace(), Qt::Key_F5);
+    QTableView& grid = *workspace().findChild<QTableView*>("flexgrid");
+    click(*grid.viewport(), grid.visualRect(grid.model()->index(1, 0)).center());
+    road.robot.files.emplace_back(road.folder.path("second"));
+    press(workspace(), Qt::Key_P, Qt::ControlModifier);
+    EXPECT_THAT(read_file(road.said), HasSubstr("\ntext\t8\t2\tI-2\n"));
+    EXPECT_THAT(read_file(road.said), testing::Not(HasSubstr("I-1")));
 }
 
 TEST(Reports, TheDesignFormFillsACopyOfItsTemplateWithAllInlets) {
