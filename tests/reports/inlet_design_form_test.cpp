@@ -194,6 +194,14 @@ TEST_F(DesignForm, TheNextInletIsTheFirstThatNamesThisOneOnItsLeftOrElseOnItsRig
     EXPECT_FALSE(spreadsheet.cells.contains({17, 12}));
 }
 
+TEST_F(DesignForm, TheLeftSideOfALaterInletIsAskedBeforeTheRightSideOfAnEarlierOne) {
+    add("1", on_grade);
+    add("2", with(in_sump, {{"PREINLET2", "1"}}));
+    add("3", with(on_grade, {{"PREINLET1", "1"}}));
+    print();
+    EXPECT_EQ(at(15, 12), CellValue(3.0));
+}
+
 TEST_F(DesignForm, TheNextInletIsLookedForByTheNumberInTheSheet) {
     add("1.0", on_grade);
     add("2", with(on_grade, {{"PREINLET1", "1.0"}}));

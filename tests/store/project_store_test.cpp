@@ -131,6 +131,12 @@ TEST_F(CheckInletUsageTest, TellsTheInletThatNamesThisOneOnEitherSide) {
     EXPECT_EQ(session.ReferencingInletNumber, "10A");
 }
 
+TEST_F(CheckInletUsageTest, OfSeveralThatNameItTheOneEnteredFirstIsTold) {
+    run_sql(path, "INSERT INTO INLET (INLET_NUMBER, PREINLET1) VALUES ('9', 'X'), ('1', 'X')");
+    EXPECT_TRUE(CheckInletUsage("X", "PREINLET1"));
+    EXPECT_EQ(session.ReferencingInletNumber, "9");
+}
+
 TEST_F(CheckInletUsageTest, ForgetsTheReferencingInletOfTheCallBefore) {
     session.ReferencingInletNumber = "7";
     EXPECT_FALSE(CheckInletUsage("10", "PREINLET1"));
