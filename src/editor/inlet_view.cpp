@@ -74,7 +74,7 @@ void SSTab1_Click() {
 }  // namespace inlet_view
 
 void show_inlet_view() {
-    frmviewinlet = {};
+    frmviewinlet = {.shows = frmviewinlet.shows + 1};
     viewed_inlet = {};
     platform::show_wait_pointer(true);
     auto& screen = frmviewinlet.screen;

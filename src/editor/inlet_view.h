@@ -16,6 +16,7 @@ struct InletView {
     std::string caption = "Inlet Record - VIEW MODE";
     InletScreen screen{.record = &viewed_inlet};
     bool visible = false;
+    int shows = 0;  // rises with each record that is shown: the window comes to the front
     platform::RowSet viewinletRS;
 };
 

@@ -19,7 +19,6 @@ using enum FieldId;
 
 constexpr int add_new_reason = 1;
 constexpr int first_change_reason = 11;
-constexpr int parent_closes_reason = 4;
 
 void InitEditorForm() {
     set_text(txtProject, store::session.projectName);
@@ -53,10 +52,6 @@ void load_inlet_editor() {
 void unload_inlet_editor() {
     frminletMDIC = {};
     engine::open_inlet = {};
-}
-
-bool refuses_to_close(int reason) {
-    return reason == parent_closes_reason;
 }
 
 void get_all_projectrecords() {

@@ -11,8 +11,6 @@ namespace gullymark::editor {
 void load_inlet_editor();
 /// Releases the row sets and forgets the form's state.
 void unload_inlet_editor();
-/// True refuses to close: the parent window closes (reason 4), which unloads the form itself.
-bool refuses_to_close(int reason);
 
 // Row sets. A failure is told in a plain box with the store's description and ends the operation.
 void get_all_projectrecords();

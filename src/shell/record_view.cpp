@@ -29,6 +29,11 @@ void RecordView::show_state() {
     if (isVisible() != frmviewinlet.visible) {
         setVisible(frmviewinlet.visible);
     }
+    if (isVisible() && shows_shown_ != frmviewinlet.shows) {
+        raise();
+        activateWindow();
+    }
+    shows_shown_ = frmviewinlet.shows;
 }
 
 void RecordView::closeEvent(QCloseEvent* event) {

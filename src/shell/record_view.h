@@ -24,6 +24,7 @@ class RecordView : public QWidget {
     void show_state();
 
     std::unique_ptr<Ui::frminletMDIC> form_;
+    int shows_shown_ = 0;
 };
 
 }  // namespace gullymark::shell

@@ -6,6 +6,8 @@
 #include <QApplication>
 #include <QIcon>
 #include <QPalette>
+#include <QProcess>
+#include <QSettings>
 
 #include "editor/life_cycle.h"
 #include "editor/windows.h"
@@ -83,10 +85,16 @@ void darken_disabled_texts() {
     QApplication::setPalette(palette);
 }
 
+/// The program keeps no settings; the toolkit's file dialog would keep its history.
+void keep_no_settings() {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QProcess::nullDevice());
+}
+
 }  // namespace
 
 void build_windows() {
     load_resources();
+    keep_no_settings();
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/application.svg")));
     QApplication::setQuitOnLastWindowClosed(false);
     darken_disabled_texts();

@@ -158,11 +158,16 @@ TEST_F(Discharge, TheRightOverrideDoesTheSameOnItsSide) {
     EXPECT_EQ(shown(Rdischarge_override), "YES");
     EXPECT_EQ(shown(Ldischarge_override), "NO");
     EXPECT_TRUE(field(discharge2).enabled);
-    EXPECT_FALSE(field(runoff_area2).enabled);
     EXPECT_TRUE(field(runoff_area).enabled);
+    for (const FieldId id : {runoff_area2, runoff_coeff2, intensity2}) {
+        EXPECT_FALSE(field(id).enabled) << field_name(id);
+    }
     clicked(Right_override);
     EXPECT_EQ(shown(Rdischarge_override), "NO");
     EXPECT_FALSE(field(discharge2).enabled);
+    for (const FieldId id : {runoff_area2, runoff_coeff2, intensity2}) {
+        EXPECT_TRUE(field(id).enabled) << field_name(id);
+    }
 }
 
 TEST_F(Discharge, InViewTheOverrideDoesNothing) {

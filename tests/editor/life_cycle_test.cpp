@@ -24,11 +24,6 @@ TEST_F(LifeCycle, TheWaitPointerEndsWithTheLoad) {
     EXPECT_EQ(user.wait_pointers, (std::vector<bool>{true, false, true, false}));
 }
 
-TEST_F(LifeCycle, TheFormRefusesToCloseWithItsParentWindow) {
-    EXPECT_TRUE(refuses_to_close(4));
-    EXPECT_FALSE(refuses_to_close(1));
-}
-
 // Add.
 
 TEST_F(LifeCycle, AddStartsANewRowWithTheRoadOfTheLastOne) {

@@ -99,6 +99,16 @@ TEST_F(Renumber, AnEmptyNumberIsNoChange) {
     EXPECT_EQ(links(), untouched);
 }
 
+TEST_F(Renumber, AnInletThatFeedsTwoOthersIsAskedAboutOnceForItsLeftSide) {
+    stored("INSERT INTO INLET (INLET_NUMBER, PREINLET2) VALUES ('E', 'A')");
+    user.answers = {Answer::yes, Answer::yes};
+    renumber(1, "X");
+    EXPECT_EQ(boxes(),
+              (Boxes{modify_question("A"), feeds_question("C"),
+                     information("Update completed! Please Refresh the screen to verify your changes")}));
+    EXPECT_EQ(links(), "B|NULL|NULL\nC|X|NULL\nD|NULL|B\nE|NULL|X\nX|NULL|NULL");
+}
+
 TEST_F(Renumber, CancelIsNoChange) {
     user.answers = {Answer::yes};
     cancels = true;

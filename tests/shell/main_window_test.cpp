@@ -1,7 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QRegularExpression>
+#include <QSettings>
 
 #include "running_program.h"
 #include "shell/splash.h"
@@ -146,6 +148,13 @@ TEST(MainWindow, EndsTheProgramByItsMenuItsKeyAndItsCloseButton) {
         EXPECT_FALSE(RunningProgram::main().isVisible());
         EXPECT_THAT(program.robot.boxes, IsEmpty());
     }
+}
+
+TEST(MainWindow, AFileDialogLeavesNoSettingsBehind) {
+    RunningProgram program;
+    choose(RunningProgram::main(), "mnuFile", "mnucreateProj");
+    EXPECT_EQ(program.robot.file_titles.size(), 1U);
+    EXPECT_FALSE(QFileInfo::exists(QSettings(QSettings::UserScope, "QtProject").fileName()));
 }
 
 TEST(Splash, StandsInTheMiddleOfTheScreenAndGoesByKeyOrClick) {
