@@ -9,7 +9,7 @@ work=$(mktemp -d)
 trap 'kill $(jobs -p) 2>/dev/null; rm -rf "$work"' EXIT
 "$bin/make_project" "$bin/GullymarkAL10.rdb" "$(dirname "$0")/../tests/cases/solves_ordinary.tsv" "$work/road.gmk" "$inlets"
 exec {display_number}<> <(:)
-Xvfb -displayfd "$display_number" -screen 0 1280x800x24 -nolisten tcp >/dev/null 2>&1 &
+Xvfb -noreset -displayfd "$display_number" -screen 0 1280x800x24 -nolisten tcp >/dev/null 2>&1 &
 read -r -u "$display_number" number
 export DISPLAY=:$number HOME=$work XDG_RUNTIME_DIR=$work
 openbox --sm-disable >/dev/null 2>&1 &

@@ -31,7 +31,8 @@ type_text() { xdotool type --delay 20 "$1"; sleep 0.2; }
 
 start_display() {
   exec {display_number}<> <(:)
-  Xvfb -displayfd "$display_number" -screen 0 1280x800x24 -nolisten tcp >/dev/null 2>&1 &
+  # Without -noreset the server starts anew when its only client leaves, and throws out the window manager that comes then.
+  Xvfb -noreset -displayfd "$display_number" -screen 0 1280x800x24 -nolisten tcp >/dev/null 2>&1 &
   started+=($!)
   read -r -t 30 -u "$display_number" number || fail "no virtual display"
   export DISPLAY=:$number HOME=$work XDG_RUNTIME_DIR=$work LC_ALL=C.UTF-8
