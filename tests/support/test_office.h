@@ -1,6 +1,7 @@
 #pragma once
 
 #include <unistd.h>
+#include <algorithm>
 
 #include <chrono>
 #include <csignal>
@@ -101,8 +102,9 @@ class TestOffice {
 
     /// Ends it on the spot and waits until it has gone.
     void end() const {
+        const auto ending = processes();
         send(SIGKILL);
-        wait_until([this] { return processes().empty(); });
+        wait_until([&] { return processes().empty() && std::ranges::all_of(ending, has_gone); });
     }
 
     /// True as soon as it holds, false when it does not within some seconds.
@@ -118,6 +120,15 @@ class TestOffice {
     }
 
   private:
+    /// A process that is killed loses its command line before it closes what others can still connect to.
+    static bool has_gone(pid_t process) {
+        std::ifstream file("/proc/" + std::to_string(process) + "/stat");
+        std::string stat;
+        std::getline(file, stat);
+        const auto name_end = stat.rfind(')');
+        return name_end == std::string::npos || stat.substr(name_end + 2, 1) == "Z";
+    }
+
     /// A line for the shell, all of which is the test's own.
     static bool run(const std::string& command) {
         return std::system(command.c_str()) == 0;  // NOLINT(cert-env33-c)
