@@ -13,10 +13,12 @@
 // Prints a line for each trial, and what fell short of the promise that nothing is lost that had been saved; the exit
 // code tells whether something did. The test run does a few of each, `doc/performance.md` has the figures of many.
 
+#include <algorithm>
+#include <array>
 #include <exception>
 #include <iostream>
-#include <optional>
 #include <string>
+#include <string_view>
 
 #include "faults/trials.h"
 
@@ -66,11 +68,11 @@ bool fail_calls(const Site& site) {
 
 bool take(const Site& site, int times) {
     bool good = true;
-    auto deeds = deeds_in_a_project(site);
-    deeds.pop_back();  // the upgrade, done when the project is open
+    const auto deeds = deeds_in_a_project(site);
     for (const auto& taking : takings()) {
         for (const auto& deed : deeds) {
-            good = take_away(site, deed, taking, times).tell() && good;
+            // One that is done by opening is over before the file can be taken away.
+            good = (deed.by_opening || take_away(site, deed, taking, times).tell()) && good;
         }
     }
     return good;
@@ -81,48 +83,46 @@ bool damage(const Site& site, int times, int seed) {
     return damage_bytes(site, times, seed).tell();
 }
 
-/// False when something fell short; nothing when there are no such faults.
-std::optional<bool> try_out(const std::string& faults, const Site& site, int count, int seed) {
-    if (faults == "kills") {
-        return kill(site, count);
+bool work_in_two(const Site& site, int edits) {
+    deeds_in_a_project(site);
+    return work_two_at_once(site, edits).tell();
+}
+
+struct Faults {
+    std::string_view name;
+    std::string_view counts;
+    bool (*tried)(const Site& site, int count, int seed);  // false when something fell short
+};
+
+constexpr auto all_faults = std::to_array<Faults>({
+    {"kills", "TIMES", [](const Site& site, int count, int) { return kill(site, count); }},
+    {"full_disk", "STEPS", [](const Site& site, int count, int) { return fill(site, count); }},
+    {"calls", "", [](const Site& site, int, int) { return fail_calls(site); }},
+    {"taken", "TIMES", [](const Site& site, int count, int) { return take(site, count); }},
+    {"damage", "TIMES [SEED]", damage},
+    {"many", "INLETS", [](const Site& site, int count, int) { return work_in_many(site, count).tell(); }},
+    {"two", "EDITS", [](const Site& site, int count, int) { return work_in_two(site, count); }},
+});
+
+void tell_usage() {
+    for (const auto& faults : all_faults) {
+        std::cerr << "try_faults " << faults.name << ' ' << faults.counts << '\n';
     }
-    if (faults == "full_disk") {
-        return fill(site, count);
-    }
-    if (faults == "calls") {
-        return fail_calls(site);
-    }
-    if (faults == "taken") {
-        return take(site, count);
-    }
-    if (faults == "damage") {
-        return damage(site, count, seed);
-    }
-    if (faults == "many") {
-        return work_in_many(site, count).tell();
-    }
-    if (faults == "two") {
-        deeds_in_a_project(site);
-        return work_two_at_once(site, count).tell();
-    }
-    return std::nullopt;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+    const std::string_view name = argc > 1 ? argv[1] : "";
+    const auto faults = std::ranges::find(all_faults, name, &Faults::name);
+    if (faults == all_faults.end()) {
+        tell_usage();
+        return 2;
+    }
     try {
         const auto number = [&](int argument) { return argc > argument ? std::stoi(argv[argument]) : 1; };
         const gullymark::testing_support::TempFolder folder;
-        const Site site(folder.path());
-        const auto good = try_out(argc > 1 ? argv[1] : "", site, number(2), number(3));
-        if (!good) {
-            std::cerr << "usage: try_faults kills TIMES | full_disk STEPS | calls | taken TIMES | damage "
-                         "TIMES [SEED] | "
-                         "many INLETS\n";
-            return 2;
-        }
-        return *good ? 0 : 1;
+        return faults->tried(Site(folder.path()), number(2), number(3)) ? 0 : 1;
     } catch (const std::exception& error) {
         std::cerr << error.what() << '\n';
         return 2;

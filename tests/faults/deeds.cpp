@@ -72,7 +72,7 @@ std::vector<Deed> deeds_in_a_project(const Site& site) {
                                std::filesystem::copy_options::overwrite_existing);
     return {
         {"save", road, edit},         {"copy and save", road, copy},   {"delete", road, remove},
-        {"renumber", road, renumber}, {"details", road, save_details}, {"upgrade", old_road, upgrade},
+        {"renumber", road, renumber}, {"details", road, save_details}, {"upgrade", old_road, upgrade, true},
     };
 }
 

@@ -14,6 +14,7 @@ struct Deed {
     std::string old_file;  // of the site: what is opened before the deed
     /// The deed of this number; further ones change something else.
     void (*act)(Designer& designer, const Site& site, int number);
+    bool by_opening = false;  // the deed is to open the file
 };
 
 /// Save, copy, delete, renumber, details, upgrade. Makes the files that they begin with.

@@ -54,14 +54,14 @@ void act_in_want(const Site& site, const Scarcity& scarcity, int degree, Outcome
 
 Outcome act_in_every_want(const Site& site, const Deed& deed, const Scarcity& scarcity, int degrees) {
     Outcome outcome{.name = deed.name};
-    const bool at_open = deed.name == "upgrade";
     const Course course = run_undisturbed(site, deed, 1);
     for (int degree = 0; degree < degrees; ++degree) {
         site.begin_anew(deed.old_file);
         const auto open = [&](Designer& designer) { designer.open(site.file()); };
         act_in_want(
-            site, scarcity, degree, outcome, [&](Designer& designer) { at_open ? void() : open(designer); },
-            [&](Designer& designer) { at_open ? open(designer) : deed.act(designer, site, 0); });
+            site, scarcity, degree, outcome,
+            [&](Designer& designer) { deed.by_opening ? void() : open(designer); },
+            [&](Designer& designer) { deed.by_opening ? open(designer) : deed.act(designer, site, 0); });
         const auto round = "degree " + std::to_string(degree) + ": ";
         if (const auto complaint = complaint_about(site, site.file()); !complaint.empty()) {
             outcome.fail(round + complaint);

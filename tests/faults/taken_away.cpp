@@ -70,14 +70,6 @@ void prepare(const Site& site, const Deed& deed) {
     allow_writing(site);
 }
 
-/// Root passes over the permissions of files.
-void become_a_user() {
-    constexpr id_t nobody = 65534;
-    if (geteuid() == 0 && (setgid(nobody) != 0 || setuid(nobody) != 0)) {
-        throw std::runtime_error("root cannot become a user");
-    }
-}
-
 }  // namespace
 
 std::vector<Taking> takings() {
@@ -92,7 +84,9 @@ Outcome take_away(const Site& site, const Deed& deed, const Taking& taking, int 
     const Course course = run_undisturbed(site, deed, deeds_each);
     const SharedNumber done;
     const auto all = [&] {
-        become_a_user();
+        if (!testing_support::become_unprivileged()) {
+            throw std::runtime_error("root cannot become a user");
+        }
         do_all(site, deed, *done);
     };
     const auto duration = time_of([&] { prepare(site, deed); }, all);

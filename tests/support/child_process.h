@@ -107,18 +107,21 @@ class Pipe {
     std::array<int, 2> ends_{};
 };
 
+/// From here on this process is a user whom file permissions hold; root passes over them. False when this machine does
+/// not let root become such a user.
+inline bool become_unprivileged() {
+    constexpr id_t nobody = 65534;
+    return geteuid() != 0 || (setgid(nobody) == 0 && setuid(nobody) == 0);
+}
+
 /// What `action` returns when it runs as a user whom file permissions hold; root passes over them. Empty when this
 /// machine does not let root become such a user.
 inline std::string run_unprivileged(const std::function<std::string()>& action) {
     if (geteuid() != 0) {
         return action();
     }
-    constexpr id_t nobody = 65534;
     const Pipe answer;
-    ChildProcess child([&] {
-        const bool changed = setgid(nobody) == 0 && setuid(nobody) == 0;
-        answer.write(changed ? "+" + action() : "-");
-    });
+    ChildProcess child([&] { answer.write(become_unprivileged() ? "+" + action() : "-"); });
     if (!child.wait()) {
         throw std::runtime_error("the action failed in its process");
     }
