@@ -14,13 +14,9 @@ beside=$4
 # A window whose title begins so, waited for, and put away.
 await_other() {
   local window
-  for _ in $(seq 600); do
-    window=$(xdotool search --onlyvisible --name "^$1" 2>/dev/null | head -n 1)
-    [ -n "$window" ] && break
-    sleep 0.1
-  done
-  [ -n "$window" ] || fail "no window '$1'"
+  comes 600 xdotool search --onlyvisible --name "^$1" || fail "no window '$1'"
   sleep 1
+  window=$(xdotool search --onlyvisible --name "^$1" | head -n 1)
   echo "help_and_reports: $(xdotool getwindowname "$window")"
   xdotool windowminimize "$window"
   xdotool search --name '^GullymarkAL$' windowactivate >/dev/null 2>&1
@@ -29,12 +25,10 @@ await_other() {
 
 # The program's boxes and its workspace have the same title.
 await_windows() {
-  for _ in $(seq 100); do
-    [ "$(xdotool search --onlyvisible --name '^GullymarkAL$' 2>/dev/null | wc -l)" = "$1" ] && sleep 0.3 && return
-    sleep 0.1
-  done
-  fail "not $1 windows 'GullymarkAL'"
+  comes 100 are_windows "$1" || fail "not $1 windows 'GullymarkAL'"
+  sleep 0.3
 }
+are_windows() { [ "$(xdotool search --onlyvisible --name '^GullymarkAL$' | wc -l)" = "$1" ]; }
 
 ask_for_help() {
   press F1
@@ -62,11 +56,6 @@ start_display
 start_program
 open_project
 ask_for_help
-press ctrl+p
-await "Enter New File Name for Inlet Report"
-print_sheet report INLET_REPORTAL.xlr
-press alt+f Up Up Return
-await "Enter New File Name for Inlet Design Form"
-print_sheet form INLETDESIGNFORMAL.xlr
+print_both_sheets
 leave_program
 echo "help_and_reports: both reports are written"

@@ -48,12 +48,7 @@ copy_program
 start_display
 start_program
 open_project
-press ctrl+p
-await "Enter New File Name for Inlet Report"
-print_sheet report INLET_REPORTAL.xlr
-press alt+f Up Up Return
-await "Enter New File Name for Inlet Design Form"
-print_sheet form INLETDESIGNFORMAL.xlr
+print_both_sheets
 leave_program
 for name in report form; do
   xdotool search --name "^$name.xls - LibreOffice Calc" >/dev/null || fail "$name.xls has gone with the program"

@@ -18,14 +18,21 @@ fail() {
   exit 1
 }
 
-# A window of that title with the focus, waited for.
-await() {
-  for _ in $(seq 300); do
-    [ "$(xdotool getactivewindow getwindowname 2>/dev/null)" = "$1" ] && sleep 0.3 && return
+# comes TENTHS COMMAND ARGUMENT...: the command is tried until it succeeds, or fails when that many tenths of a second are over
+comes() {
+  for _ in $(seq "$1"); do
+    "${@:2}" >/dev/null 2>&1 && return
     sleep 0.1
   done
-  fail "no window '$1'"
+  return 1
 }
+
+# A window of that title with the focus, waited for.
+await() {
+  comes 300 in_front "$1" || fail "no window '$1'"
+  sleep 0.3
+}
+in_front() { [ "$(xdotool getactivewindow getwindowname)" = "$1" ]; }
 press() { for key in "$@"; do xdotool key --delay 40 "$key"; sleep 0.2; done; }
 type_text() { xdotool type --delay 20 "$1"; sleep 0.2; }
 
@@ -41,8 +48,7 @@ start_display() {
   openbox --sm-disable >/dev/null 2>&1 &
   started+=($!)
   # A window that comes before the window manager never gets the focus.
-  for _ in $(seq 600); do xdotool get_num_desktops >/dev/null 2>&1 && return; sleep 0.1; done
-  fail "no window manager"
+  comes 600 xdotool get_num_desktops || fail "no window manager"
 }
 
 start_program() {
@@ -50,10 +56,7 @@ start_program() {
   running=$!
   started+=("$running")
   # On a busy machine the window manager can be late: the first window is told to take the focus.
-  for _ in $(seq 300); do
-    xdotool search --onlyvisible --name '^Gullymark$' windowactivate >/dev/null 2>&1 && break
-    sleep 0.1
-  done
+  comes 300 xdotool search --onlyvisible --name '^Gullymark$' windowactivate
   await Gullymark
 }
 
@@ -68,10 +71,20 @@ open_project() {
   await GullymarkAL
 }
 
+# Both reports from the workspace: print_sheet NAME TEMPLATE takes over in the dialog for the file.
+print_both_sheets() {
+  press ctrl+p
+  await "Enter New File Name for Inlet Report"
+  print_sheet report INLET_REPORTAL.xlr
+  press alt+f Up Up Return
+  await "Enter New File Name for Inlet Design Form"
+  print_sheet form INLETDESIGNFORMAL.xlr
+}
+
 leave_program() {
   press ctrl+q
   await Gullymark
   press ctrl+q
-  for _ in $(seq 100); do kill -0 "$running" 2>/dev/null || return 0; sleep 0.1; done
-  fail "the program does not end"
+  comes 100 has_ended || fail "the program does not end"
 }
+has_ended() { ! kill -0 "$running"; }
