@@ -22,4 +22,4 @@ look_at() {
 export -f look_at
 
 grep -oE '"file": "[^"]+"' "$build/compile_commands.json" | cut -d'"' -f4 | sort -u |
-  grep -E "^$1/(src|tests|tools|bench)/" | xargs -r -P "$(nproc)" -I{} bash -c 'look_at "$1"' _ {}
+  grep -E "^$1/(src|tests|tools|bench|fuzz)/" | xargs -r -P "$(nproc)" -I{} bash -c 'look_at "$1"' _ {}
