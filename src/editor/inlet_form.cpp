@@ -162,6 +162,12 @@ bool leave_focused_field() {
     return !frminletMDIC.focused || leave(*frminletMDIC.focused);
 }
 
+void drop_focus() {
+    frminletMDIC.focused.reset();
+    frminletMDIC.wanted_focus.reset();
+    frminletMDIC.wanted_selection.reset();
+}
+
 bool may_leave(FieldId field) {
     if (has_rule(field, checks_list) && list_refuses(field)) {
         return false;

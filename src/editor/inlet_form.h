@@ -67,6 +67,9 @@ bool leave(FieldId field);
 /// Leaves the field that has the focus, if one has it.
 bool leave_focused_field();
 
+/// The user is in no field, and none is wanted: nothing is checked or computed.
+void drop_focus();
+
 // The parts of `leave`.
 
 /// The check before leaving; false refuses.

@@ -137,10 +137,4 @@ void show_tab(int tab) {
     SSTab1_Click(previous);
 }
 
-void drop_focus() {
-    frminletMDIC.focused.reset();
-    frminletMDIC.wanted_focus.reset();
-    frminletMDIC.wanted_selection.reset();
-}
-
 }  // namespace gullymark::editor

@@ -45,7 +45,5 @@ void SSTab1_Click(int previous_tab);
 void set_tab_display(int tab);
 /// Shows a page as if its tab was clicked.
 void show_tab(int tab);
-/// The user is in no field, and none is wanted.
-void drop_focus();
 
 }  // namespace gullymark::editor

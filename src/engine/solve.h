@@ -12,8 +12,8 @@ inline constexpr const char* invalid_input = "No results computed.  Invalid inpu
 extern bool DataSolved;
 
 /// The command SOLVE on the open inlet. A discharge of 0 or below and a text that is none show a box and change nothing
-/// else; so does a fault that escapes a solver, which leaves the results empty. Otherwise the inlet is solved, `DataSolved` becomes true whatever the
-/// solver did, and the answer is true: the results page is to be shown.
+/// else; so does a fault that escapes a solver, which leaves the results empty. Otherwise the inlet is solved,
+/// `DataSolved` becomes true whatever the solver did, and the answer is true: the results page is to be shown.
 bool cmdsolve_Click();
 
 /// Clears the results and runs the solver for the inlet's location and type; an unknown one runs none.

@@ -77,11 +77,7 @@ void ListView::show_state() {
     if (isVisible() != frminletflex.visible) {
         setVisible(frminletflex.visible);
     }
-    if (isVisible() && shows_shown_ != frminletflex.shows) {
-        shows_shown_ = frminletflex.shows;
-        raise();
-        activateWindow();
-    }
+    come_to_front(*this, frminletflex.shows, shows_shown_);
 }
 
 bool ListView::eventFilter(QObject* watched, QEvent* event) {

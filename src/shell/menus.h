@@ -27,8 +27,8 @@ void add_tool(QToolBar& bar, const char* command, const QString& icon);
 template <class Logic>
 void build_menu(QMainWindow& window, std::span<const platform::MenuItem<Logic>> items, const Logic& state,
                 const std::function<bool(std::string_view command)>& may_run = {}) {
-    window.setContextMenuPolicy(
-        Qt::NoContextMenu);  // the toolkit's would let tool bars vanish, and F9 with them
+    // The toolkit's own would let tool bars vanish, and F9 with them.
+    window.setContextMenuPolicy(Qt::NoContextMenu);
     for (const auto& item : items) {
         const auto text = [](std::string_view view) {
             return QString::fromUtf8(view.data(), static_cast<qsizetype>(view.size()));

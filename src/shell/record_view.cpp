@@ -29,11 +29,7 @@ void RecordView::show_state() {
     if (isVisible() != frmviewinlet.visible) {
         setVisible(frmviewinlet.visible);
     }
-    if (isVisible() && shows_shown_ != frmviewinlet.shows) {
-        raise();
-        activateWindow();
-    }
-    shows_shown_ = frmviewinlet.shows;
+    come_to_front(*this, frmviewinlet.shows, shows_shown_);
 }
 
 void RecordView::closeEvent(QCloseEvent* event) {

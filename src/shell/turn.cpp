@@ -4,6 +4,8 @@
 #include <utility>
 #include <vector>
 
+#include <QWidget>
+
 #include "platform/outside.h"
 
 namespace gullymark::shell {
@@ -52,6 +54,13 @@ void handle(const std::function<void()>& handler) {
         platform::tell(failure.what());
     }
     show_all();
+}
+
+void come_to_front(QWidget& window, int shows, int& shows_before) {
+    if (std::exchange(shows_before, shows) != shows && window.isVisible()) {
+        window.raise();
+        window.activateWindow();
+    }
 }
 
 int modal_rounds() {

@@ -2,6 +2,8 @@
 
 #include <functional>
 
+class QWidget;
+
 /// One event of the user runs one handler of the logic, and afterwards the windows show what it left: one turn.
 namespace gullymark::shell {
 
@@ -20,6 +22,9 @@ bool showing();
 
 /// Runs one handler and then `show_all`. A failure that the handler lets through is told in a plain box.
 void handle(const std::function<void()>& handler);
+
+/// Brings a window that is shown to the front when the logic asked for it once more: `shows` differs from what it was.
+void come_to_front(QWidget& window, int shows, int& shows_before);
 
 /// Counts the modal boxes, dialogs and forms that were run so far: the release of a mouse button that was pressed
 /// before one is lost.

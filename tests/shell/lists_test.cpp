@@ -3,11 +3,9 @@
 #include <gtest/gtest.h>
 #include <QContextMenuEvent>
 #include <QProxyStyle>
-#include <QTabBar>
 #include <QTableView>
 #include <QToolBar>
 
-#include "editor/inlet_list.h"
 #include "new_road.h"
 #include "shell/rows_model.h"
 
