@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "engine/Common_Libraries.h"
+#include "engine/hydraulics/Common_Libraries.h"
 #include "engine/inlet_record.h"
 #include "engine/solve.h"
 #include "engine/step.h"
@@ -44,7 +44,7 @@ void solve_all(benchmark::State& state, const std::vector<engine::InletRecord>& 
         state.ResumeTiming();
         for (int i = 0; i < 64; ++i) {
             trace.clear();
-            engine::cmdsolve_Click();
+            engine::check_and_solve();
         }
     }
     engine::onlooker.trace = nullptr;

@@ -113,7 +113,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     };
 
     const std::clock_t started = std::clock();
-    const bool solved = engine::cmdsolve_Click();
+    const bool solved = engine::check_and_solve();
     if (std::clock() - started > time_limit) {
         fail("the solve took too long");
     }

@@ -68,7 +68,7 @@ std::map<std::string, std::string> solve_row(const Table& table, const std::vect
         messages += (messages.empty() ? "" : "|") + box.text;
         return platform::Answer::ok;
     });
-    const bool solved = engine::cmdsolve_Click();
+    const bool solved = engine::check_and_solve();
     platform::outside.show_box = show_box;
 
     std::map<std::string, std::string> computed = {{"solved", solved ? "yes" : "no"}, {"messages", messages}};

@@ -10,7 +10,7 @@
 #include "editor/kinds.h"
 #include "editor/renumber_dialog.h"
 #include "editor/workspace.h"
-#include "engine/solve.h"
+#include "engine/results.h"
 #include "engine/unit_constants.h"
 #include "platform/number_text.h"
 #include "platform/outside.h"

@@ -189,7 +189,7 @@ void cmdsolve_Click() {
         return;
     }
     follow_project_units();
-    if (engine::cmdsolve_Click()) {
+    if (engine::check_and_solve()) {
         field(Results_Frame).enabled = false;
         show_tab(3);
     } else if (was_in) {

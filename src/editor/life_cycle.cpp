@@ -6,6 +6,7 @@
 #include "editor/field_enabling.h"
 #include "editor/form_access.h"
 #include "editor/workspace.h"
+#include "engine/results.h"
 #include "engine/solve.h"
 #include "engine/unit_constants.h"
 #include "platform/outside.h"

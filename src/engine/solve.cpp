@@ -3,34 +3,22 @@
 #include <array>
 #include <string>
 
-#include "engine/CISI_CG_RESULTS.h"
-#include "engine/CI_SU_RESULTS.h"
-#include "engine/COMBO_CG_RESULTS.h"
-#include "engine/COMBO_SU_RESULTS.h"
-#include "engine/GI_CG_RESULTS.h"
-#include "engine/GI_SU_RESULTS.h"
-#include "engine/SI_SU_RESULTS.h"
-#include "engine/TRAP_CG_RESULTS.h"
-#include "engine/TRAP_SU_RESULTS.h"
+#include "engine/inlet_record.h"
+#include "engine/results.h"
+#include "engine/solvers/CISI_CG_RESULTS.h"
+#include "engine/solvers/CI_SU_RESULTS.h"
+#include "engine/solvers/COMBO_CG_RESULTS.h"
+#include "engine/solvers/COMBO_SU_RESULTS.h"
+#include "engine/solvers/GI_CG_RESULTS.h"
+#include "engine/solvers/GI_SU_RESULTS.h"
+#include "engine/solvers/SI_SU_RESULTS.h"
+#include "engine/solvers/TRAP_CG_RESULTS.h"
+#include "engine/solvers/TRAP_SU_RESULTS.h"
 #include "engine/step.h"
-#include "engine/unit_constants.h"
-#include "platform/number_text.h"
 #include "platform/outside.h"
 
 namespace gullymark::engine {
 namespace {
-
-enum class ResultFormat : unsigned char { follows_units, four_decimals, stays_as_written };
-
-struct ResultColumn {
-    Column column;
-    ResultFormat format;
-};
-
-constexpr auto result_columns = std::to_array<ResultColumn>({
-#define RESULT_COLUMN(name, format, unit, meaning) {Column::name, ResultFormat::format},
-#include "engine/inlet_columns.def"
-});
 
 struct Solver {
     std::string_view location;
@@ -58,7 +46,7 @@ constexpr auto solvers = std::to_array<Solver>({
 
 bool DataSolved = false;
 
-bool cmdsolve_Click() {
+bool check_and_solve() {
     try {
         if (number_in(Column::TOTAL_DISCHARGE) <= 0.0) {
             platform::tell("No results computed.  Check your input for discharge.",
@@ -83,24 +71,6 @@ void solve_inlet() {
         if (solver.location == location && solver.type == type) {
             solver.compute_results();
         }
-    }
-}
-
-void clear_results() {
-    for (const auto& result : result_columns) {
-        open_inlet.set(result.column, "");
-    }
-}
-
-void format_results() {
-    for (const auto& [column, format] : result_columns) {
-        const std::string& text = open_inlet.text(column);
-        if (format == ResultFormat::stays_as_written || text.empty()) {
-            continue;
-        }
-        const std::string_view decimals =
-            format == ResultFormat::four_decimals ? "0.0000" : std::string_view(unit_constants.numberFormat);
-        open_inlet.set(column, platform::format_text(text, decimals));
     }
 }
 

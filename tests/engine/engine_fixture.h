@@ -55,7 +55,7 @@ class EngineTest : public testing::Test {
 
     /// Solves the open inlet as it stands; the text of a column then.
     static const std::string& solved(Column column) {
-        cmdsolve_Click();
+        check_and_solve();
         return open_inlet.text(column);
     }
 
@@ -64,7 +64,7 @@ class EngineTest : public testing::Test {
     static double solved(std::string_view symbol) {
         std::vector<TraceLine> trace;
         onlooker.trace = &trace;
-        cmdsolve_Click();
+        check_and_solve();
         onlooker.trace = nullptr;
         double value = 0.0;
         for (const auto& line : trace) {

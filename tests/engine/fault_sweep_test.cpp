@@ -2,7 +2,7 @@
 
 #include <set>
 
-#include "engine_fixture.h"
+#include "engine/engine_fixture.h"
 #include "platform/number_text.h"
 #include "tools/case_table.h"
 
@@ -96,7 +96,7 @@ class FaultSweep : public EngineTest, public testing::WithParamInterface<Sheet> 
         open_inlet = inlet;
         std::vector<TraceLine> trace;
         onlooker = {.trace = &trace, .tripped_step = tripped_step};
-        cmdsolve_Click();
+        check_and_solve();
         onlooker = {};
         return trace;
     }

@@ -5,8 +5,8 @@
 #include <cmath>
 #include <random>
 
-#include "engine/grate_types.h"
-#include "engine_fixture.h"
+#include "engine/engine_fixture.h"
+#include "engine/hydraulics/grate_types.h"
 #include "platform/number_text.h"
 #include "tools/case_table.h"
 
@@ -54,7 +54,7 @@ class Identities : public EngineTest {
         for (const auto& each : all_cases()) {
             cases::load_row(*each.table, each.row);
             SCOPED_TRACE(each.name);
-            if (cmdsolve_Click()) {
+            if (check_and_solve()) {
                 check();
             }
         }
@@ -146,7 +146,7 @@ TEST_F(Identities, ASolveLeavesNothingBehindForTheNext) {
             const std::string format = unit_constants.numberFormat;
             unit_constants = round == 0 ? UnitConstants{} : before;
             unit_constants.numberFormat = format;
-            cmdsolve_Click();
+            check_and_solve();
             for (std::size_t i = 0; i < each.table->columns.size(); ++i) {
                 const auto& heading = each.table->columns[i];
                 if (const auto column = column_named(heading.substr(1)); heading.front() == '=' && column) {

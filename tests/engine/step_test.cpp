@@ -1,6 +1,6 @@
 #include "engine/step.h"
 
-#include "engine_fixture.h"
+#include "engine/engine_fixture.h"
 
 namespace gullymark::engine {
 namespace {

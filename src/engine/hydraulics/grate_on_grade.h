@@ -1,0 +1,50 @@
+#pragma once
+
+#include "engine/hydraulics/grate_types.h"
+#include "engine/step.h"
+
+/// What a grate and a combination of curb opening and grate on a continuous grade work out alike. Both sheets
+/// share one numbering: the steps here, and those of their own at the numbers left out here.
+namespace gullymark::engine {
+
+struct GrateOnGrade {
+    Quantity Q{"Q", Unit::discharge, "flow that the inlet must take"};
+    Quantity S{"S", Unit::slope, "longitudinal slope"};
+    Quantity n{"n", Unit::ratio, "Manning's roughness"};
+    Quantity W{"W", Unit::length, "gutter width"};
+    Quantity Sx{"Sx", Unit::slope, "pavement cross slope"};
+    Quantity Sw{"Sw", Unit::slope, "gutter cross slope"};
+    Quantity Wa{"Wa", Unit::length, "width of the local depression"};
+    Quantity C{"C", Unit::percent, "clogged share of the grate"};
+    Quantity Wg{"Wg", Unit::length, "width of the grate"};
+    Quantity Weff{"Weff", Unit::length, "width of the grate that clogging leaves"};
+    Quantity SdashW{"S'w", Unit::slope, "inlet cross slope"};
+    Quantity a{"a", Unit::length, "depression at the curb"};
+    Quantity limit{"limit", Unit::length, "allowable spread"};
+    Quantity T{"T", Unit::length, "spread of the gutter flow"};
+    Quantity B{"B", Unit::ratio, "share of the flow outside the gutter width"};
+    Quantity Eo{"Eo", Unit::ratio, "share of the flow within the gutter width"};
+    Quantity Spw{"Spw", Unit::slope, "slope of the depressed section"};
+    Quantity Se{"Se", Unit::slope, "composite cross slope"};
+    Quantity LT{"LT", Unit::length, "length for total interception"};
+    Quantity d{"d", Unit::length, "drop of the gutter below the pavement slope"};
+    Quantity y{"y", Unit::depth, "depth at the curb"};
+    Quantity A{"A", Unit::area, "area of the gutter flow"};
+    Quantity V{"V", Unit::velocity, "velocity of the gutter flow"};
+    FrontalFlow frontal;
+    Quantity Rs{"Rs", Unit::ratio, "efficiency for side flow"};
+    Quantity Eg{"Eg", Unit::ratio, "share of the flow over the clogged grate"};
+    Quantity E{"E", Unit::ratio, "efficiency of the grate"};
+};
+
+void set_constants_of_grate_on_grade();
+
+void read_inputs(GrateOnGrade& s);               // steps 1 to 19
+void find_approach(GrateOnGrade& s);             // steps 21 to 40: spread, flow ratio, slopes
+void find_interception_length(GrateOnGrade& s);  // steps 42 to 44
+void find_depth_and_velocity(GrateOnGrade& s);   // steps 45 to 53
+
+/// The grate's efficiency at the velocity V over it: steps 61 to 68, and those of the frontal rule.
+void find_grate_efficiency(GrateOnGrade& s, Real V);
+
+}  // namespace gullymark::engine

@@ -1,0 +1,17 @@
+#pragma once
+
+/// What all solvers do with the 26 result columns of the open inlet: emptied before a solve, formatted at its end.
+namespace gullymark::engine {
+
+/// What a box says when inputs keep a solver from its results.
+inline constexpr const char* invalid_input = "No results computed.  Invalid input.";
+
+/// Empties the result columns.
+void clear_results();
+
+/// Writes each numeric result with its fixed decimals: four for slopes and the efficiencies of frontal and side flow,
+/// those of `unit_constants.numberFormat` for all others. An empty one stays empty, a text that is no number stays as
+/// it is, and so does INLETPERF.
+void format_results();
+
+}  // namespace gullymark::engine
