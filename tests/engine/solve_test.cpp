@@ -11,7 +11,7 @@ using platform::BoxKind;
 using SolveCommand = EngineTest;
 
 void fill_curb_example() {
-    // FHWA urban drainage manual, curb-opening example.
+    // FHWA HEC-22, fourth edition, example 7.2 (A): a curb opening without a depression.
     const std::initializer_list<std::pair<Column, const char*>> values = {
         {Column::INLET_LOCATION, "CONTINUOUS GRADE"},
         {Column::INLET_TYPE, "Curb Inlet"},

@@ -1,5 +1,5 @@
-// Worked examples of FHWA's Urban Drainage Design Manual (HEC-22), chapter 4, ENGLISH units. Its numbers are
-// read from charts and rounded on the way; the published values stand beside those of this system.
+// Worked examples of FHWA's HEC-22, ENGLISH units; doc/sources.md tells which. Its numbers are read from charts and
+// rounded on the way; beside each stands the value that the formulas of this system give by hand.
 
 #include "engine/engine_fixture.h"
 
@@ -13,13 +13,13 @@ class WorkedExamples : public EngineTest {};
 struct Expected {
     Column column;
     double published;
-    const char* computed;
+    const char* by_hand;
     double within;  // how far the manual's rounding takes the published value away
 };
 
 void compare(std::initializer_list<Expected> values) {
-    for (const auto& [column, published, computed, within] : values) {
-        EXPECT_EQ(open_inlet.text(column), computed) << column_name(column);
+    for (const auto& [column, published, by_hand, within] : values) {
+        EXPECT_EQ(open_inlet.text(column), by_hand) << column_name(column);
         EXPECT_NEAR(number_in(column).number(), published, within) << column_name(column);
     }
 }

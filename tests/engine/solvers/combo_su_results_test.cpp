@@ -52,7 +52,7 @@ TEST_F(ComboInSump, AGrateThatIsMoreThanCloggedIsNoCurbOpeningAlone) {
 }
 
 TEST_F(ComboInSump, TheThroatDecidesTheDepthOfTheMarch) {
-    // Q = 40, h = 14 in, Ae = 0.1, L = 1, tried depth by depth by hand.
+    // Q = 40, h = 14 in, Ae = 0.1, L = 1, every depth tried outside the program.
     fill({{TOTAL_DISCHARGE, "40"},
           {HEIGHTOFCURB, "14"},
           {GRATEAREA, "0.2"},
