@@ -3,6 +3,7 @@
 
 #include "catalogue/standards.h"
 #include "engine/step.h"
+#include "engine/words.h"
 #include "platform/number_text.h"
 
 namespace gullymark::catalogue {
@@ -14,14 +15,14 @@ using engine::open_inlet;
 using engine::Real;
 using engine::step;
 
-// The first text names no row: the P1/P2/P3 rows at a curb close their bracket and so count as "Without Curb".
+// The first text names no row: the P1/P2/P3 rows at a curb close their bracket and so count as without one.
 constexpr auto standards_with_curb =
     std::to_array<std::string_view>({"P1/P2/P3(Curb", "PR(Curb)", "PB(Curb)", "B(Curb/barrier)"});
 
 std::string_view curb_option(std::string_view standard) {
-    const bool with_curb = std::find(standards_with_curb.begin(), standards_with_curb.end(), standard) !=
-                           standards_with_curb.end();
-    return with_curb ? "With Curb" : "Without Curb";
+    const bool at_curb = std::find(standards_with_curb.begin(), standards_with_curb.end(), standard) !=
+                         standards_with_curb.end();
+    return at_curb ? engine::words::with_curb : engine::words::without_curb;
 }
 
 Real open_share() {

@@ -3,11 +3,13 @@
 #include <algorithm>
 
 #include "catalogue/standard_rows.h"
+#include "engine/words.h"
 
 namespace gullymark::catalogue {
 namespace {
 
 using engine::Column;
+using namespace engine::words;
 
 constexpr std::optional<Column> only_read;
 
@@ -76,8 +78,6 @@ constexpr auto frmDitchInletSU_columns = std::to_array<TableColumn>({
 
 // clang-format on
 
-constexpr std::string_view on_grade = "CONTINUOUS GRADE";
-constexpr std::string_view in_sump = "SUMP";
 constexpr std::string_view curb_title = "ALDOT CURB INLET TYPES";
 constexpr std::string_view grate_title = "ALDOT GRATE INLET TYPES";
 constexpr std::string_view combination_title = "ALDOT COMB. CURB & GRATE INLET TYPES";
@@ -85,24 +85,24 @@ constexpr std::string_view combination_title = "ALDOT COMB. CURB & GRATE INLET T
 // The ditch tables have no title of their own: the heading serves.
 constexpr auto all_tables = std::to_array<Table>({
     {.name = "frmCIG",
-     .location = on_grade,
-     .type = "Curb Inlet",
+     .location = continuous_grade,
+     .type = curb_inlet,
      .title = curb_title,
      .heading = {"ALDOT STANDARD CURB INLETS", "ON GRADE"},
      .select_command = "cigselect",
      .columns = curb_columns,
      .rows = frmCIG_rows},
     {.name = "frmCIS",
-     .location = in_sump,
-     .type = "Curb Inlet",
+     .location = sump,
+     .type = curb_inlet,
      .title = curb_title,
      .heading = {"ALDOT STANDARD CURB INLETS", "IN SUMP"},
      .select_command = "cisselect",
      .columns = curb_columns,
      .rows = frmCIS_rows},
     {.name = "frmGIG",
-     .location = on_grade,
-     .type = "Grate Inlet",
+     .location = continuous_grade,
+     .type = grate_inlet,
      .title = grate_title,
      .heading = {"ALDOT STANDARD GRATE INLETS", "ON GRADE"},
      .select_command = "gigselect",
@@ -110,8 +110,8 @@ constexpr auto all_tables = std::to_array<Table>({
      .rows = frmGIG_rows,
      .pads_names = true},
     {.name = "frmGIS",
-     .location = in_sump,
-     .type = "Grate Inlet",
+     .location = sump,
+     .type = grate_inlet,
      .title = grate_title,
      .heading = {"ALDOT STANDARD GRATE INLETS", "IN SUMP"},
      .select_command = "gisselect",
@@ -120,32 +120,32 @@ constexpr auto all_tables = std::to_array<Table>({
      .pads_names = true,
      .tells_curb = true},
     {.name = "frmCCGG",
-     .location = on_grade,
-     .type = "Combination Curb and Grate Inlet",
+     .location = continuous_grade,
+     .type = combination_inlet,
      .title = combination_title,
      .heading = {"ALDOT STD. COMB. CURB & GRATE INLETS", "ON GRADE"},
      .select_command = "ccggselect",
      .columns = frmCCGG_columns,
      .rows = frmCCGG_rows},
     {.name = "frmCCGS",
-     .location = in_sump,
-     .type = "Combination Curb and Grate Inlet",
+     .location = sump,
+     .type = combination_inlet,
      .title = combination_title,
      .heading = {"ALDOT STD. COMB. CURB & GRATE INLETS", "IN SUMP"},
      .select_command = "ccgsselect",
      .columns = frmCCGS_columns,
      .rows = frmCCGS_rows},
     {.name = "frmDitchInletCG",
-     .location = on_grade,
-     .type = "Grate Inlet in a Ditch",
+     .location = continuous_grade,
+     .type = ditch_inlet,
      .title = "ALDOT STANDARD DITCH INLETS ON GRADE",
      .heading = {"ALDOT STANDARD DITCH INLETS ON GRADE"},
      .select_command = "diselect",
      .columns = frmDitchInletCG_columns,
      .rows = frmDitchInletCG_rows},
     {.name = "frmDitchInletSU",
-     .location = in_sump,
-     .type = "Grate Inlet in a Ditch",
+     .location = sump,
+     .type = ditch_inlet,
      .title = "ALDOT STANDARD DITCH INLETS IN SUMP",
      .heading = {"ALDOT STANDARD DITCH INLETS IN SUMP"},
      .select_command = "diselect",

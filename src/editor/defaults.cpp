@@ -6,9 +6,10 @@
 
 #include "editor/field_rules.h"
 #include "editor/form_access.h"
-#include "editor/kinds.h"
 #include "editor/life_cycle.h"
+#include "engine/hydraulics/grate_types.h"
 #include "engine/unit_constants.h"
+#include "engine/words.h"
 #include "platform/number_text.h"
 #include "store/project_session.h"
 
@@ -17,6 +18,7 @@ namespace {
 
 using engine::by_units;
 using enum FieldId;
+using namespace engine::words;
 
 struct DefaultText {
     FieldId field;
@@ -95,7 +97,7 @@ const DefaultText& default_of(FieldId id) {
 
 void select_throat() {
     select_entry(cboThroat, 2);
-    set_text(cboThroat, "Vertical");
+    set_text(cboThroat, vertical_throat);
 }
 
 }  // namespace
@@ -114,24 +116,17 @@ void fill_clog_entries() {
 
 void FillFormLists() {
     follow_project_units();
-    const auto fill = [](FieldId list, std::vector<std::string> entries) {
-        field(list).entries = std::move(entries);
+    const auto fill = [](FieldId list, const std::vector<std::string_view>& entries) {
+        field(list).entries.assign(entries.begin(), entries.end());
     };
-    fill(inlet_type, {"Curb Inlet", "Grate Inlet", "Combination Curb and Grate Inlet", "Slotted Inlet",
-                      "Grate Inlet in a Ditch"});
-    fill(inlet_location, {"CONTINUOUS GRADE", "SUMP"});
+    fill(inlet_type, {curb_inlet, grate_inlet, combination_inlet, slotted_inlet, ditch_inlet});
+    fill(inlet_location, {continuous_grade, sump});
     fill(offset_location, {"RIGHT", "LEFT"});
     fill(flow_direction, {"Low Station", "High Station", "High/Low Station", "Overland"});
-    fill(cboThroat, {"Horizontal", "Inclined", "Vertical"});
-    fill(cboCurb, {"With Curb", "Without Curb"});
+    fill(cboThroat, {horizontal_throat, inclined_throat, vertical_throat});
+    fill(cboCurb, {with_curb, without_curb});
     fill_clog_entries();
-    if (engine::is_english()) {
-        fill(cboType, {"P-1-7/8", "P-1-1/8", "Curved Vane", "30° Tilt Bar", "45° Tilt Bar", "P-1-7/8-4",
-                       "Reticuline"});
-    } else {
-        fill(cboType, {"P-50", "P-30", "Curved Vane", "30°- 85 Tilt Bar", "45°- 85 Tilt Bar", "P-50x100",
-                       "Reticuline"});
-    }
+    fill(cboType, engine::grate_names());
 }
 
 void SetFormDefaults() {

@@ -3,13 +3,14 @@
 #include <array>
 
 #include "editor/form_access.h"
-#include "editor/kinds.h"
+#include "engine/words.h"
 
 namespace gullymark::editor {
 namespace {
 
 using platform::Colour;
 using enum FieldId;
+using namespace engine::words;
 
 enum class Offer : unsigned char {
     E,  // enabled, in the window colour
@@ -95,7 +96,7 @@ constexpr auto inlet_data_fields = std::to_array<FieldId>({
 
 void offer_angle_by_throat() {
     auto& angle = field(txtAngle);
-    const bool inclined = text(cboThroat) == "Inclined";
+    const bool inclined = text(cboThroat) == inclined_throat;
     angle.colour = inclined ? Colour::window : Colour::grey;
     angle.locked = !inclined;
     if (inclined) {

@@ -7,11 +7,11 @@
 #include "editor/discharge.h"
 #include "editor/field_enabling.h"
 #include "editor/form_access.h"
-#include "editor/kinds.h"
 #include "editor/renumber_dialog.h"
 #include "editor/workspace.h"
 #include "engine/results.h"
 #include "engine/unit_constants.h"
+#include "engine/words.h"
 #include "platform/number_text.h"
 #include "platform/outside.h"
 #include "store/project_store.h"
@@ -23,6 +23,7 @@ using engine::by_units;
 using platform::BoxKind;
 using platform::tell;
 using enum FieldId;
+using namespace engine::words;
 
 std::string_view format_of(FieldId id) {
     const std::string_view format = screen_field(id).format;
@@ -146,11 +147,11 @@ void inlet_subtype_LostFocus() {
 void cboThroat_Click() {
     engine::clear_results();
     const std::string throat = text(cboThroat);
-    if (throat == "Vertical") {
+    if (throat == vertical_throat) {
         fix_throat_angle(90.0);
-    } else if (throat == "Horizontal") {
+    } else if (throat == horizontal_throat) {
         fix_throat_angle(0.0);
-    } else if (throat == "Inclined") {
+    } else if (throat == inclined_throat) {
         enable(field(txtAngle));
         field(txtAngle).locked = false;
     }
@@ -167,7 +168,7 @@ void cboCurb_Click() {
 void cboCurb_LostFocus() {
     for (const std::string_view standard : {"PR (Curb)", "PB (Curb)", "B (Curb/barrier)"}) {
         if (text(inlet_subtype) == standard) {
-            set_text(cboCurb, "With Curb");
+            set_text(cboCurb, with_curb);
         }
     }
 }

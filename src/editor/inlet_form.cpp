@@ -6,16 +6,17 @@
 #include "editor/discharge.h"
 #include "editor/field_rules.h"
 #include "editor/form_access.h"
-#include "editor/kinds.h"
 #include "editor/life_cycle.h"
 #include "engine/solve.h"
+#include "engine/step.h"
+#include "engine/words.h"
 #include "platform/characters.h"
-#include "platform/number_text.h"
 
 namespace gullymark::editor {
 namespace {
 
 using enum FieldId;
+using namespace engine::words;
 
 /// What a field does beyond the families of the one list of fields.
 struct OwnHandlers {
@@ -92,11 +93,7 @@ bool list_refuses(FieldId list) {
 InletForm frminletMDIC;
 
 engine::Real number_in(FieldId id) {
-    const auto read = platform::read_number(text(id));
-    if (read.fault != platform::NumberFault::none) {
-        throw engine::Fault::unreadable_number;
-    }
-    return {read.number};
+    return engine::number_in(text(id));
 }
 
 bool on_grade() {

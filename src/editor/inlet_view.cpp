@@ -1,8 +1,8 @@
 #include "editor/inlet_view.h"
 
-#include "editor/bound_row.h"
 #include "editor/field_enabling.h"
 #include "editor/inlet_list.h"
+#include "engine/inlet_row.h"
 #include "engine/unit_constants.h"
 #include "platform/failure.h"
 #include "platform/outside.h"

@@ -1,11 +1,11 @@
 #include "editor/life_cycle.h"
 
-#include "editor/bound_row.h"
 #include "editor/defaults.h"
 #include "editor/discharge.h"
 #include "editor/field_enabling.h"
 #include "editor/form_access.h"
 #include "editor/workspace.h"
+#include "engine/inlet_row.h"
 #include "engine/results.h"
 #include "engine/solve.h"
 #include "engine/unit_constants.h"

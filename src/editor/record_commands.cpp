@@ -1,7 +1,6 @@
 #include <array>
 #include <optional>
 
-#include "editor/bound_row.h"
 #include "editor/defaults.h"
 #include "editor/discharge.h"
 #include "editor/form_access.h"
@@ -9,6 +8,7 @@
 #include "editor/life_cycle.h"
 #include "editor/renumber_dialog.h"
 #include "editor/workspace.h"
+#include "engine/inlet_row.h"
 #include "engine/solve.h"
 #include "platform/outside.h"
 #include "store/project_session.h"

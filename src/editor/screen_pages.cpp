@@ -1,13 +1,14 @@
 #include <array>
 
 #include "editor/inlet_screen.h"
-#include "editor/kinds.h"
 #include "editor/sides.h"
+#include "engine/words.h"
 
 namespace gullymark::editor {
 namespace {
 
 using enum FieldId;
+using namespace engine::words;
 
 struct Captions {
     std::string_view type;

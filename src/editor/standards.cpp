@@ -2,12 +2,13 @@
 
 #include "editor/field_rules.h"
 #include "editor/form_access.h"
-#include "editor/kinds.h"
 #include "editor/windows.h"
+#include "engine/words.h"
 
 namespace gullymark::editor {
 
 using enum FieldId;
+using namespace engine::words;
 
 void inletstd_help_Click() {
     enable(field(inletstd_help));

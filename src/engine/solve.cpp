@@ -15,6 +15,7 @@
 #include "engine/solvers/TRAP_CG_RESULTS.h"
 #include "engine/solvers/TRAP_SU_RESULTS.h"
 #include "engine/step.h"
+#include "engine/words.h"
 #include "platform/outside.h"
 
 namespace gullymark::engine {
@@ -26,20 +27,17 @@ struct Solver {
     void (*compute_results)();
 };
 
-constexpr std::string_view on_grade = "CONTINUOUS GRADE";
-constexpr std::string_view in_sump = "SUMP";
-
 constexpr auto solvers = std::to_array<Solver>({
-    {on_grade, "Curb Inlet", CISI_CG_RESULTS::compute_results},
-    {on_grade, "Grate Inlet", GI_CG_RESULTS::compute_results},
-    {on_grade, "Combination Curb and Grate Inlet", COMBO_CG_RESULTS::compute_results},
-    {on_grade, "Slotted Inlet", CISI_CG_RESULTS::compute_results},
-    {on_grade, "Grate Inlet in a Ditch", TRAP_CG_RESULTS::compute_results},
-    {in_sump, "Curb Inlet", CI_SU_RESULTS::compute_results},
-    {in_sump, "Grate Inlet", GI_SU_RESULTS::compute_results},
-    {in_sump, "Combination Curb and Grate Inlet", COMBO_SU_RESULTS::compute_results},
-    {in_sump, "Slotted Inlet", SI_SU_RESULTS::compute_results},
-    {in_sump, "Grate Inlet in a Ditch", TRAP_SU_RESULTS::compute_results},
+    {words::continuous_grade, words::curb_inlet, CISI_CG_RESULTS::compute_results},
+    {words::continuous_grade, words::grate_inlet, GI_CG_RESULTS::compute_results},
+    {words::continuous_grade, words::combination_inlet, COMBO_CG_RESULTS::compute_results},
+    {words::continuous_grade, words::slotted_inlet, CISI_CG_RESULTS::compute_results},
+    {words::continuous_grade, words::ditch_inlet, TRAP_CG_RESULTS::compute_results},
+    {words::sump, words::curb_inlet, CI_SU_RESULTS::compute_results},
+    {words::sump, words::grate_inlet, GI_SU_RESULTS::compute_results},
+    {words::sump, words::combination_inlet, COMBO_SU_RESULTS::compute_results},
+    {words::sump, words::slotted_inlet, SI_SU_RESULTS::compute_results},
+    {words::sump, words::ditch_inlet, TRAP_SU_RESULTS::compute_results},
 });
 
 }  // namespace

@@ -49,8 +49,8 @@ std::string describe(const TraceLine& line) {
     return text;
 }
 
-Real number_in(Column column) {
-    const auto read = platform::read_number(open_inlet.text(column));
+Real number_in(std::string_view text) {
+    const auto read = platform::read_number(text);
     switch (read.fault) {
         case platform::NumberFault::unreadable:
             throw Fault::unreadable_number;
@@ -60,6 +60,10 @@ Real number_in(Column column) {
             break;
     }
     return {read.number};
+}
+
+Real number_in(Column column) {
+    return number_in(open_inlet.text(column));
 }
 
 namespace detail {

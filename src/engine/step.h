@@ -56,7 +56,10 @@ struct Onlooker {
 
 extern Onlooker onlooker;
 
-/// The number in a column's text. Faults on a text that is none, an empty one included.
+/// The number in a text. Faults on one that is none, an empty one included, and on one too large for a double.
+Real number_in(std::string_view text);
+
+/// The number in the text of a column of the open inlet.
 Real number_in(Column column);
 
 namespace detail {

@@ -1,6 +1,8 @@
 #include <array>
 #include <string>
 
+#include "engine/inlet_row.h"
+#include "engine/words.h"
 #include "platform/database.h"
 #include "platform/number_text.h"
 #include "platform/outside.h"
@@ -13,6 +15,7 @@
 namespace gullymark::reports {
 namespace {
 
+namespace words = engine::words;
 using enum engine::Column;
 using store::ProjectSession;
 
@@ -26,7 +29,7 @@ constexpr ReportFile report = {
 constexpr int first_row = 15;
 
 bool in_sump(const engine::InletRecord& inlet) {
-    return inlet.text(INLET_LOCATION) == "SUMP";
+    return inlet.text(INLET_LOCATION) == words::sump;
 }
 
 void write_offset(const Place& place) {
@@ -40,9 +43,9 @@ void write_kind(const Place& place) {
 /// A grate inlet takes gutter flow too, but has always been left without the words.
 void write_flow(const Place& place) {
     const std::string& type = place.text(INLET_TYPE);
-    if (type == "Curb Inlet" || type == "Combination Curb and Grate Inlet" || type == "Slotted Inlet") {
+    if (type == words::curb_inlet || type == words::combination_inlet || type == words::slotted_inlet) {
         place.write("Gutter Flow");
-    } else if (type == "Grate Inlet in a Ditch") {
+    } else if (type == words::ditch_inlet) {
         place.write("Ditch Flow");
     }
 }
@@ -171,17 +174,6 @@ constexpr auto data_and_results = std::to_array<CellStep>({
     {{1, 45}, YesIfLess{{1, 38}, {1, 44}}},
 });
 
-engine::InletRecord current_inlet(const platform::RowSet& rows) {
-    engine::InletRecord inlet;
-    const platform::Row values = rows.row();
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        if (const auto column = engine::column_named(rows.columns()[i])) {
-            inlet.load(*column, values[i]);
-        }
-    }
-    return inlet;
-}
-
 /// Writes one inlet from `row` on; the number of rows it takes.
 int write_inlet(platform::Sheet& sheet, int row, const engine::InletRecord& inlet) {
     const bool sump = in_sump(inlet);
@@ -201,7 +193,11 @@ void fill(platform::Sheet& sheet, platform::RowSet& rows) {
     write_cells(sheet, 0, header, {});
     attempt([&] {
         for (int row = first_row; !rows.at_end(); rows.move_next()) {
-            attempt([&] { row += write_inlet(sheet, row, current_inlet(rows)); });
+            attempt([&] {
+                engine::InletRecord inlet;
+                load_row(rows, inlet);
+                row += write_inlet(sheet, row, inlet);
+            });
         }
     });
 }

@@ -1,6 +1,7 @@
 #include <array>
 #include <span>
 
+#include "engine/words.h"
 #include "platform/failure.h"
 #include "platform/files.h"
 #include "platform/outside.h"
@@ -12,6 +13,7 @@
 namespace gullymark::reports {
 namespace {
 
+namespace words = engine::words;
 using enum engine::Column;
 using store::ProjectSession;
 
@@ -202,12 +204,12 @@ struct Kind {
 
 Kind kind_in(const platform::Sheet& sheet) {
     const std::string type = platform::text_in(sheet.read(type_cell));
-    return {.sump = platform::text_in(sheet.read(location_cell)) == "SUMP",
-            .ditch = type == "Grate Inlet in a Ditch",
-            .curb = type == "Curb Inlet",
-            .grate = type == "Grate Inlet",
-            .combination = type == "Combination Curb and Grate Inlet",
-            .slotted = type == "Slotted Inlet"};
+    return {.sump = platform::text_in(sheet.read(location_cell)) == words::sump,
+            .ditch = type == words::ditch_inlet,
+            .curb = type == words::curb_inlet,
+            .grate = type == words::grate_inlet,
+            .combination = type == words::combination_inlet,
+            .slotted = type == words::slotted_inlet};
 }
 
 struct Group {

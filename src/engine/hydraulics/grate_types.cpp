@@ -31,6 +31,14 @@ const GrateType* grate_type(std::string_view text) {
     return found == grate_types.end() ? nullptr : found;
 }
 
+std::vector<std::string_view> grate_names() {
+    std::vector<std::string_view> names;
+    for (const auto& type : grate_types) {
+        names.push_back(is_english() || type.other_name.empty() ? type.name : type.other_name);
+    }
+    return names;
+}
+
 void convert_grate_length(int number, FrontalFlow& frontal) {
     if (!is_english()) {
         step(number, frontal.Lf, [] { return number_in(Column::INLETLENGTH) / 0.3048; });

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string_view>
+#include <vector>
 
 #include "engine/step.h"
 
@@ -24,6 +25,9 @@ struct GrateType {
 
 /// The grate of that text in GRATETYPE, compared whole and exactly; null for a text that names none.
 const GrateType* grate_type(std::string_view text);
+
+/// The names of all types in the order of a list to pick from; those of the unit system in force.
+std::vector<std::string_view> grate_names();
 
 /// The part of a sheet that finds the frontal efficiency Rf. Its steps are 101 to 113 in every sheet.
 struct FrontalFlow {

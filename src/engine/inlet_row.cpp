@@ -1,13 +1,11 @@
-#include "editor/bound_row.h"
+#include "engine/inlet_row.h"
 
 #include <utility>
 
-namespace gullymark::editor {
-
-using engine::InletRecord;
+namespace gullymark::engine {
 
 void load_row(const platform::RowSet& rows, InletRecord& record) {
-    for (const auto column : engine::all_columns) {
+    for (const auto column : all_columns) {
         record.load(column, std::nullopt);
     }
     record.begin_new_changes();
@@ -16,7 +14,7 @@ void load_row(const platform::RowSet& rows, InletRecord& record) {
     }
     platform::Row values = rows.row();
     for (std::size_t i = 0; i < values.size(); ++i) {
-        if (const auto column = engine::column_named(rows.columns()[i])) {
+        if (const auto column = column_named(rows.columns()[i])) {
             record.load(*column, std::move(values[i]));
         }
     }
@@ -25,11 +23,11 @@ void load_row(const platform::RowSet& rows, InletRecord& record) {
 void save_row(platform::RowSet& rows, const InletRecord& record) {
     platform::Row values = rows.row();
     for (std::size_t i = 0; i < values.size(); ++i) {
-        if (const auto column = engine::column_named(rows.columns()[i])) {
+        if (const auto column = column_named(rows.columns()[i])) {
             values[i] = record.value(*column);
         }
     }
     rows.save(values);
 }
 
-}  // namespace gullymark::editor
+}  // namespace gullymark::engine
