@@ -58,24 +58,12 @@ void check_split(std::string_view statement) {
     }
 }
 
-std::string in_quote_marks(std::string_view text) {
-    std::string result = "'";
-    for (const char letter : text) {
-        result += letter;
-        if (letter == '\'') {
-            result += letter;
-        }
-    }
-    return result + "'";
-}
-
 void check_condition(std::string_view text) {
     const auto condition = platform::read_condition(text);
     if (!condition || condition->column.find(']') != std::string::npos) {
         return;
     }
-    const auto again =
-        platform::read_condition("[" + condition->column + "] = " + in_quote_marks(condition->text));
+    const auto again = platform::read_condition("[" + condition->column + "] = '" + condition->text + "'");
     if (again != condition) {
         fail("a condition says something else when it is written again", text);
     }
@@ -96,24 +84,41 @@ struct Project {
     }
 };
 
+/// True when it ended without a Failure, which is an answer like any other.
 template <class Action>
-void try_out(Action action) {
+bool try_out(Action action) {
     try {
         action();
-    } catch (const platform::Failure&) {  // NOLINT(bugprone-empty-catch): an answer like any other
+        return true;
+    } catch (const platform::Failure&) {
+        return false;
+    }
+}
+
+void check_search(platform::RowSet& rows, const std::string& text) {
+    rows.move_first();
+    const bool searched = try_out([&] { rows.find(text); });
+    if (rows.at_end()) {
+        return;
+    }
+    const auto condition = platform::read_condition(text);
+    if (!searched || !condition || rows.value(condition->column) != condition->text) {
+        fail("a search ended on a row that does not hold", text);
+    }
+}
+
+/// The text joined into a statement as a number is.
+void check_comment(platform::Connection& connection, const std::string& text) {
+    const std::string statement = "UPDATE INLET SET STATION = '" + text + "' WHERE INLET_NUMBER = 'CB-1'";
+    if (platform::has_comment(statement) && try_out([&] { connection.execute(statement); })) {
+        fail("a statement with a comment was carried out", text);
     }
 }
 
 void check_on_file(const std::string& text) {
     static Project project;
-    try_out([&] {
-        project.rows.move_first();
-        project.rows.find(text);
-        const auto condition = platform::read_condition(text);
-        if (!project.rows.at_end() && project.rows.value(condition->column) != condition->text) {
-            fail("a row was found that does not hold", text);
-        }
-    });
+    check_search(project.rows, text);
+    check_comment(project.connection, text);
     try_out([&] {
         platform::RowSet rows;
         rows.open(project.connection, text);

@@ -179,6 +179,7 @@ sqlite3* Connection::open_file() const {
 }
 
 void Connection::execute(const std::string& statement) {
+    refuse_comments(statement);
     const auto parts = split_alter(statement);
     if (parts.size() == 1) {
         execute_one(open_file(), parts.front());

@@ -14,7 +14,7 @@ struct sqlite3;
 ///
 /// The real adapter is SQLite. Statements come from a smaller dialect than SQLite's in two points, and the adapter
 /// carries them out: `ALTER TABLE t ADD a TEXT(3), b TEXT(10)` adds column by column, each that can be added, and
-/// `[NAME]` quotes a name.
+/// `[NAME]` quotes a name. It knows no comments: `--` or `/*` outside of quote marks is a failure.
 namespace gullymark::platform {
 
 struct DatabaseHandle;
@@ -97,7 +97,9 @@ class RowSet {
     /// Forward (or back, when negative) by `rows` from the current position; stops at either end marker.
     void move(std::int64_t rows);
     /// Forward from the current row, it included, to the first row for which `COLUMN = 'text'` holds; at the end
-    /// when there is none. The text compares exactly, case counting. Any other form of condition is a failure.
+    /// when there is none. The text is what stands between the first quote mark and the last, and compares exactly,
+    /// case counting. Any other form of condition is a failure. A search that fails leaves the set at its end too:
+    /// what reads or saves the current row after it must not come upon another row than the one searched for.
     void find(const std::string& condition);
     /// A mark that finds the current row again, also after `requery`.
     [[nodiscard]] std::int64_t bookmark() const;

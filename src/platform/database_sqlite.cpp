@@ -1,5 +1,6 @@
 #include "platform/database_sqlite.h"
 
+#include "platform/database_statements.h"
 #include "platform/failure.h"
 
 namespace gullymark::platform {
@@ -55,6 +56,12 @@ std::optional<std::string> Statement::text(int column) const {
         return std::nullopt;
     }
     return std::string(bytes, bytes + sqlite3_column_bytes(statement_, column));
+}
+
+void refuse_comments(std::string_view statement) {
+    if (has_comment(statement)) {
+        throw Failure("-- and /* cannot stand in a statement outside of quote marks");
+    }
 }
 
 std::int64_t read_integer(sqlite3* file, std::string_view statement) {

@@ -79,6 +79,9 @@ class Statement {
     sqlite3_stmt* statement_ = nullptr;
 };
 
+/// A failure for a statement from outside that has a comment in it.
+void refuse_comments(std::string_view statement);
+
 /// The number that a statement gives.
 std::int64_t read_integer(sqlite3* file, std::string_view statement);
 

@@ -7,6 +7,8 @@
 namespace gullymark::platform {
 namespace {
 
+constexpr std::string_view blanks = " \t\r\n";
+
 bool is_name_letter(char letter) {
     return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z') ||
            (letter >= '0' && letter <= '9') || letter == '_' || letter == '$' || (letter & 0x80) != 0;
@@ -28,7 +30,7 @@ struct Pieces {
 
     /// The next piece, which stays the next one; empty at the end.
     std::string_view peek() {
-        at = std::min(text.find_first_not_of(" \t\r\n", at), text.size());
+        at = std::min(text.find_first_not_of(blanks, at), text.size());
         return text.substr(at, piece_length());
     }
 
@@ -97,23 +99,6 @@ std::string in_one_spelling(Pieces& pieces) {
     return text;
 }
 
-/// A text between single quote marks, a doubled mark standing for one; nothing when it has no end.
-std::optional<std::string> take_text(Pieces& pieces) {
-    if (!pieces.peek().starts_with('\'')) {
-        return std::nullopt;
-    }
-    std::string text;
-    for (std::size_t at = pieces.at + 1; at < pieces.text.size(); ++at) {
-        if (pieces.text[at] == '\'' && pieces.text.substr(at, 2) != "''") {
-            pieces.at = at + 1;
-            return text;
-        }
-        text += pieces.text[at];
-        at += pieces.text[at] == '\'' ? 1U : 0U;
-    }
-    return std::nullopt;
-}
-
 }  // namespace
 
 std::vector<std::string> split_alter(std::string_view statement) {
@@ -155,17 +140,31 @@ std::optional<std::string> keys_statement(std::string_view select) {
     return std::nullopt;
 }
 
+bool has_comment(std::string_view statement) {
+    Pieces pieces{statement};
+    while (!pieces.peek().empty()) {
+        const auto from_here = statement.substr(pieces.at, 2);
+        if (from_here == "--" || from_here == "/*") {
+            return true;
+        }
+        pieces.take();
+    }
+    return false;
+}
+
 std::optional<Condition> read_condition(std::string_view condition) {
     Pieces pieces{condition};
     auto column = name_of(pieces.take());
     if (!column || pieces.take() != "=") {
         return std::nullopt;
     }
-    auto text = take_text(pieces);
-    if (!text || !pieces.peek().empty()) {
+    pieces.peek();
+    const auto end = condition.find_last_not_of(blanks) + 1;
+    const auto quoted = condition.substr(pieces.at, end - std::min(end, pieces.at));
+    if (quoted.size() < 2 || quoted.front() != '\'' || quoted.back() != '\'') {
         return std::nullopt;
     }
-    return Condition{.column = *column, .text = *text};
+    return Condition{.column = *column, .text = std::string(quoted.substr(1, quoted.size() - 2))};
 }
 
 }  // namespace gullymark::platform

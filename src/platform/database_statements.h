@@ -17,8 +17,12 @@ std::vector<std::string> split_alter(std::string_view statement);
 /// statement.
 std::optional<std::string> keys_statement(std::string_view select);
 
-/// The condition of a search: COLUMN = 'text', where the name may stand in [brackets] and a doubled quote mark
-/// within the text stands for one.
+/// True when "--" or "/*" stands outside of quote marks. The statements' dialect knows no comments; the engine's would
+/// take what follows, the condition of an update among it, for one.
+bool has_comment(std::string_view statement);
+
+/// The condition of a search: COLUMN = 'text', where the name may stand in [brackets]. The text is all that stands
+/// between the first quote mark and the last, further quote marks among it as they are.
 struct Condition {
     std::string column;
     std::string text;

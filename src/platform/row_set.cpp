@@ -223,6 +223,7 @@ void RowSet::open(const Connection& connection, const std::string& statement) {
     if (!connection.is_open()) {
         throw Failure("the connection is not open");
     }
+    refuse_comments(statement);
     auto opened = std::make_unique<State>();
     opened->handle = connection.handle();
     opened->select = statement;
@@ -277,6 +278,8 @@ void RowSet::move(std::int64_t rows) {
 
 void RowSet::find(const std::string& condition) {
     auto& set = state();
+    const auto start = std::max<std::int64_t>(set.position, 0);
+    set.go(set.count());  // where a failure leaves it
     const auto searched = read_condition(condition);
     if (!searched) {
         throw Failure("a condition has the form COLUMN = 'text': " + condition);
@@ -287,8 +290,7 @@ void RowSet::find(const std::string& condition) {
     query.bind(1, searched->text);
     const auto found = read_keys(query);
     const auto is_found = [&](std::int64_t key) { return std::ranges::binary_search(found, key); };
-    const auto start = set.keys->begin() + std::max<std::int64_t>(set.position, 0);
-    set.go(std::find_if(start, set.keys->end(), is_found) - set.keys->begin());
+    set.go(std::find_if(set.keys->begin() + start, set.keys->end(), is_found) - set.keys->begin());
 }
 
 std::int64_t RowSet::bookmark() const {

@@ -5,6 +5,7 @@
 namespace {
 
 using gullymark::platform::Condition;
+using gullymark::platform::has_comment;
 using gullymark::platform::keys_statement;
 using gullymark::platform::read_condition;
 using gullymark::platform::split_alter;
@@ -78,16 +79,33 @@ TEST(ReadCondition, AColumnEqualsAText) {
     EXPECT_EQ(read_condition("\"A\" = '%_*'"), (Condition{"A", "%_*"}));
 }
 
-TEST(ReadCondition, ADoubledQuoteMarkIsOne) {
-    EXPECT_EQ(read_condition("A = 'o''clock'"), (Condition{"A", "o'clock"}));
-    EXPECT_EQ(read_condition("A = ''''"), (Condition{"A", "'"}));
+TEST(ReadCondition, TheTextReachesFromTheFirstQuoteMarkToTheLast) {
+    EXPECT_EQ(read_condition("A = 'O'Brien'"), (Condition{"A", "O'Brien"}));
+    EXPECT_EQ(read_condition("A = 'o''clock' "), (Condition{"A", "o''clock"}));
+    EXPECT_EQ(read_condition("A = '''"), (Condition{"A", "'"}));
+    EXPECT_EQ(read_condition("A = 'x' OR B = 'y'"), (Condition{"A", "x' OR B = 'y"}));
 }
 
 TEST(ReadCondition, NothingForAnyOtherForm) {
     for (const char* condition :
-         {"", "A", "A =", "= 'x'", "A = x", "A = 'x", "A = 'o'clock'", "A = '''", "A = 'x' OR B = 'y'",
-          "A <> 'x'", "A == 'x'", "A = \"x\"", "A B = 'x'", "[] = 'x'", "A = 'x';"}) {
+         {"", "A", "A =", "A = ", "= 'x'", "A = x", "A = 'x", "A = '", "A <> 'x'", "A == 'x'", "A = \"x\"",
+          "A B = 'x'", "[] = 'x'", "A = 'x';", "A = 'x' OR B"}) {
         EXPECT_EQ(read_condition(condition), std::nullopt) << condition;
+    }
+}
+
+TEST(HasComment, TwoMarksOutsideOfQuotes) {
+    for (const char* statement : {"-- a remark", "UPDATE t SET a = '5'--' WHERE a = '1'", "SELECT/**/1",
+                                  "UPDATE t SET a = 1 /* all", "a--b", "SELECT 'it''s' --", "5--"}) {
+        EXPECT_TRUE(has_comment(statement)) << statement;
+    }
+}
+
+TEST(HasComment, NotBetweenQuoteMarksAndNotApart) {
+    for (const char* statement : {"", "SELECT 1 - -1", "SELECT 8 / 2 * 3",
+                                  "UPDATE t SET a = '5--', [b--c] = '/*' WHERE \"--\" = `/*`",
+                                  "SELECT 'it''s --'", "SELECT 'no end --"}) {
+        EXPECT_FALSE(has_comment(statement)) << statement;
     }
 }
 

@@ -9,6 +9,7 @@
 namespace {
 
 using gullymark::platform::Connection;
+using gullymark::platform::RowSet;
 using gullymark::testing_support::failure_text;
 using gullymark::testing_support::run_sql;
 using gullymark::testing_support::small_project;
@@ -73,7 +74,6 @@ TEST_F(ConnectionTest, NothingBehindTheEndOfAStatementRuns) {
 
 TEST_F(ConnectionTest, AStatementThatIsNoneIsAFailure) {
     EXPECT_EQ(failure_text([&] { connection.execute(""); }), "there is no statement to run");
-    EXPECT_EQ(failure_text([&] { connection.execute("-- a remark"); }), "there is no statement to run");
 }
 
 TEST_F(ConnectionTest, AStatementThatReturnsRowsIsAFailure) {
@@ -83,6 +83,23 @@ TEST_F(ConnectionTest, AStatementThatReturnsRowsIsAFailure) {
 TEST_F(ConnectionTest, AnApostropheBreaksTheStatement) {
     EXPECT_EQ(failure_text([&] { connection.execute("UPDATE INLET SET PREINLET1 = 'o'clock'"); }),
               "near \"clock\": syntax error");
+}
+
+TEST_F(ConnectionTest, AStatementWithACommentIsRefused) {
+    constexpr const char* refusal = "-- and /* cannot stand in a statement outside of quote marks";
+    connection.execute("INSERT INTO INLET (INLET_NUMBER) VALUES ('1'), ('2')");
+    EXPECT_EQ(failure_text([&] {
+                  connection.execute("UPDATE INLET SET INLET_NUMBER = '5'--' WHERE INLET_NUMBER = '1'");
+              }),
+              refusal);
+    EXPECT_EQ(failure_text([&] { connection.execute("UPDATE INLET SET INLET_NUMBER = '5' /*"); }), refusal);
+    EXPECT_EQ(failure_text([&] { connection.execute("-- a remark"); }), refusal);
+    RowSet inlets;
+    EXPECT_EQ(failure_text(
+                  [&] { inlets.open(connection, "SELECT * FROM INLET WHERE INLET_NUMBER = '1' OR 1 --'"); }),
+              refusal);
+    connection.execute("UPDATE INLET SET INLET_NUMBER = '5--/*' WHERE INLET_NUMBER = '1'");
+    EXPECT_EQ(query("SELECT group_concat(INLET_NUMBER) FROM INLET"), "5--/*,2");
 }
 
 TEST_F(ConnectionTest, DoubleQuotesHoldNamesOnly) {

@@ -179,11 +179,43 @@ TEST_F(RowSetTest, FindComparesTextsAndNotNumbers) {
     EXPECT_TRUE(inlets.at_end());
 }
 
-TEST_F(RowSetTest, FindRefusesAnyOtherCondition) {
-    EXPECT_EQ(failure_text([&] { inlets.find("INLET_NUMBER = 'o'clock'"); }),
-              "a condition has the form COLUMN = 'text': INLET_NUMBER = 'o'clock'");
+TEST_F(RowSetTest, FindTakesApostrophesAsTheyAre) {
+    run_sql(path, "INSERT INTO INLET (INLET_NUMBER) VALUES ('O''Brien'), ('O''''Neill')");
+    inlets.requery();
+    for (const std::string text : {"O'Brien", "O''Neill"}) {
+        inlets.move_first();
+        inlets.find("INLET_NUMBER = '" + text + "'");
+        ASSERT_FALSE(inlets.at_end()) << text;
+        EXPECT_EQ(number(), text);
+    }
+}
+
+TEST_F(RowSetTest, AFindThatFailsLeavesTheSetAtItsEnd) {
+    EXPECT_EQ(failure_text([&] { inlets.find("INLET_NUMBER = 'x' OR 1"); }),
+              "a condition has the form COLUMN = 'text': INLET_NUMBER = 'x' OR 1");
+    EXPECT_TRUE(inlets.at_end());
+    inlets.move_first();
     EXPECT_EQ(failure_text([&] { inlets.find("INLET_ID = '1'"); }), "no such column: INLET_ID");
-    EXPECT_EQ(number(), "1");
+    EXPECT_TRUE(inlets.at_end());
+}
+
+TEST_F(RowSetTest, AFindThatALockStopsLeavesTheSetAtItsEndAndNothingIsSavedFromThere) {
+    sqlite3* other = nullptr;
+    sqlite3_open(path.c_str(), &other);
+    sqlite3_exec(other, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
+    EXPECT_EQ(failure_text([&] { inlets.find("INLET_NUMBER = '10'"); }), "database is locked");
+    sqlite3_close(other);
+    EXPECT_TRUE(inlets.at_end());
+    EXPECT_NE(failure_text([&] { inlets.save({"9", "", "", ""}); }), "(no failure)");
+    EXPECT_EQ(query("SELECT group_concat(INLET_NUMBER) FROM INLET"), "2,10,1");
+}
+
+TEST_F(RowSetTest, ANewRowIsDroppedByAFindThatFails) {
+    inlets.add_new();
+    EXPECT_EQ(failure_text([&] { inlets.find("INLET_NUMBER"); }),
+              "a condition has the form COLUMN = 'text': INLET_NUMBER");
+    EXPECT_FALSE(inlets.adding());
+    EXPECT_TRUE(inlets.at_end());
 }
 
 TEST_F(RowSetTest, ABookmarkFindsItsRowAgainAfterARequery) {
