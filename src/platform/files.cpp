@@ -6,8 +6,11 @@
 
 #include <array>
 #include <cerrno>
+#include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <span>
+#include <utility>
 
 #include "platform/failure.h"
 
@@ -21,60 +24,132 @@ std::string& program_folder_set() {
 
 namespace fs = std::filesystem;
 
-/// A link stays a link: what it leads to is replaced.
-fs::path end_of_links(const fs::path& path) {
-    std::error_code error;
-    const auto end = fs::canonical(path, error);
-    return error ? path : end;
+[[noreturn]] void fail(int error, const std::string& path) {
+    throw Failure(std::generic_category().message(error) + ": " + path);
 }
 
-/// An open file. What fails is thrown with the system's own reason: the library's copy tells a full disk as a fault of
-/// input and output.
+/// A link stays a link: what it leads to is replaced.
+fs::path end_of_links(const std::string& path) {
+    std::error_code error;
+    auto end = fs::canonical(path, error);
+    if (error) {
+        end = fs::absolute(path, error);
+    }
+    return error ? fs::path(path) : end;
+}
+
+/// Only ordinary files are read or replaced: a pipe could keep us waiting for ever.
+void check_kind(mode_t mode, const std::string& path) {
+    if (S_ISDIR(mode)) {
+        fail(EISDIR, path);
+    }
+    if (!S_ISREG(mode)) {
+        throw Failure("This is no ordinary file: " + path);
+    }
+}
+
+/// An open file. What fails is told with the system's own reason, as a failure of the file of this name: the library's
+/// copy tells a full disk as a fault of input and output.
 class OpenFile {
   public:
-    OpenFile(const fs::path& path, int how) : id_(open(path.c_str(), how | O_CLOEXEC, S_IRUSR | S_IWUSR)) {
-        check(id_);
-    }
-    ~OpenFile() { close(id_); }
+    OpenFile(int id, std::string name) : id_(id), name_(std::move(name)) { check(id_); }
+    ~OpenFile() { ::close(id_); }
     OpenFile(const OpenFile&) = delete;
     OpenFile& operator=(const OpenFile&) = delete;
 
+    [[nodiscard]] struct stat status() const {
+        struct stat found {};
+        check(fstat(id_, &found));
+        return found;
+    }
     [[nodiscard]] std::size_t read_some(std::span<char> bytes) const {
-        return check(read(id_, bytes.data(), bytes.size()));
+        return counted(read(id_, bytes.data(), bytes.size()));
     }
     void write_all(std::span<const char> bytes) const {
         while (!bytes.empty()) {
-            bytes = bytes.subspan(check(write(id_, bytes.data(), bytes.size())));
+            bytes = bytes.subspan(counted(write(id_, bytes.data(), bytes.size())));
         }
     }
-    /// On the disk, whatever happens next. A file system that cannot say so is believed.
-    void synchronise() const { static_cast<void>(fsync(id_)); }
+    /// A memory stick's file system may know no permissions and keeps its own.
+    void set_permissions(mode_t mode) const {
+        check(fchmod(id_, mode) == 0 || errno == EPERM || errno == EOPNOTSUPP ? 0 : -1);
+    }
+    /// On the disk, whatever happens next. A file system that knows no such call is believed.
+    void synchronise() const { check(fsync(id_) == 0 || errno == EINVAL || errno == EOPNOTSUPP ? 0 : -1); }
+    /// Some file systems tell only here that the bytes did not arrive.
+    void close() { check(::close(std::exchange(id_, -1))); }
 
   private:
-    static std::size_t check(ssize_t result) {
+    void check(ssize_t result) const {
         if (result < 0) {
-            throw fs::filesystem_error("", std::error_code(errno, std::generic_category()));
+            fail(errno, name_);
         }
+    }
+    [[nodiscard]] std::size_t counted(ssize_t result) const {
+        check(result);
         return static_cast<std::size_t>(result);
     }
 
     int id_;
+    std::string name_;
 };
 
-void copy_bytes(const fs::path& source, const fs::path& part) {
-    const OpenFile from(source, O_RDONLY);
-    const OpenFile to(part, O_WRONLY | O_CREAT | O_TRUNC);
-    std::array<char, 65536> bytes{};
-    while (const auto count = from.read_some(bytes)) {
-        to.write_all(std::span(bytes).first(count));
+/// A new file in the folder of the target, under a name that was nobody's. Removed unless it took the target's place.
+class Part {
+  public:
+    Part(const fs::path& target, const std::string& name)
+        : target_(target),
+          name_(name),
+          path_(target.parent_path() / ".gullymark_XXXXXX"),
+          file_(mkostemp(path_.data(), O_CLOEXEC), name) {}
+    ~Part() {
+        if (!placed_) {
+            unlink(path_.c_str());
+        }
     }
-    to.synchronise();
-}
+    Part(const Part&) = delete;
+    Part& operator=(const Part&) = delete;
 
-void copy_whole(const fs::path& source, const fs::path& target, const fs::path& part) {
-    copy_bytes(source, part);
-    const auto model = fs::exists(target) ? target : source;
-    fs::permissions(part, fs::status(model).permissions() | fs::perms::owner_write);
+    void fill_from(const OpenFile& source, mode_t permissions) {
+        std::array<char, 65536> bytes{};
+        while (const auto count = source.read_some(bytes)) {
+            file_.write_all(std::span(bytes).first(count));
+        }
+        file_.set_permissions(permissions);
+        file_.synchronise();
+        file_.close();
+    }
+    void synchronise_folder() const {
+        const std::string folder = target_.parent_path().string();
+        OpenFile(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC), folder).synchronise();
+    }
+    void take_place() {
+        if (rename(path_.c_str(), target_.c_str()) != 0) {
+            fail(errno, name_);
+        }
+        placed_ = true;
+        synchronise_folder();
+    }
+
+  private:
+    fs::path target_;
+    std::string name_;  // of the target, as it was given
+    std::string path_;
+    OpenFile file_;
+    bool placed_ = false;
+};
+
+/// The permissions of the file that is replaced, else of the source; the owner can write.
+mode_t permissions_of_copy(const std::string& target, const struct stat& source) {
+    struct stat old {};
+    if (stat(target.c_str(), &old) != 0) {
+        if (errno != ENOENT) {
+            fail(errno, target);
+        }
+        old = source;
+    }
+    check_kind(old.st_mode, target);
+    return (old.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO)) | S_IWUSR;
 }
 
 }  // namespace
@@ -86,21 +161,18 @@ bool file_exists(const std::string& path) {
 }
 
 void copy_file(const std::string& source, const std::string& target,
-               const std::vector<std::string>& going_along) {
+               const std::function<void(const std::string& end)>& before_exchange) {
+    const OpenFile from(open(source.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC), source);
+    check_kind(from.status().st_mode, source);
+    const mode_t permissions = permissions_of_copy(target, from.status());
     const fs::path end = end_of_links(target);
-    const fs::path part = end.string() + ".part";
-    try {
-        copy_whole(source, end, part);
-        for (const auto& ending : going_along) {
-            fs::remove(end.string() + ending);
-        }
-        fs::rename(part, end);
-        OpenFile(end.parent_path(), O_RDONLY).synchronise();
-    } catch (const fs::filesystem_error& error) {
-        std::error_code ignored;
-        fs::remove(part, ignored);
-        throw Failure(error.code().message() + ": " + (file_exists(source) ? target : source));
+    Part part(end, target);
+    part.fill_from(from, permissions);
+    if (before_exchange) {
+        before_exchange(end.string());
+        part.synchronise_folder();
     }
+    part.take_place();
 }
 
 std::string current_folder() {

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <functional>
 #include <string>
-#include <vector>
 
 /// Files and folders. Paths are UTF-8 text with the platform's separator.
 namespace gullymark::platform {
@@ -9,12 +9,15 @@ namespace gullymark::platform {
 /// True for an existing file that is no folder.
 bool file_exists(const std::string& path);
 
-/// Copies a file onto `target`, overwriting. Throws Failure with a description of what went wrong; `target` is then as
-/// it was: the copy is made beside it, as `target` with ".part" behind, and takes its place when it is whole.
-/// The copy can be written to, even where the source is read-only. Files beside `target` that belong to what was there,
-/// named by what they have behind its name, go with it.
+/// Copies an ordinary file onto `target`, overwriting; at the end of links stands what is replaced. The copy is made
+/// beside it, under a name of its own (".gullymark_" and six letters), and takes its place when it is whole and on the
+/// disk: whatever ends the program, what is found is the file that was there or the copy. Throws Failure with a
+/// description of what went wrong; `target` is then as it was, and nothing lies beside it, but where only the folder
+/// could not be synchronised at the end. The copy can be written to, even where the source is read-only.
+/// `before_exchange` runs when all is ready, with the path of what is replaced; a failure of it leaves `target` as it
+/// was, and what it does in that folder reaches the disk before the exchange.
 void copy_file(const std::string& source, const std::string& target,
-               const std::vector<std::string>& going_along = {});
+               const std::function<void(const std::string& end)>& before_exchange = {});
 
 /// The current folder of the process. Throws Failure when it no longer exists.
 std::string current_folder();

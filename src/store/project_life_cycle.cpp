@@ -7,6 +7,7 @@
 #include "platform/file_dialog.h"
 #include "platform/files.h"
 #include "platform/outside.h"
+#include "platform/project_copy.h"
 #include "store/main_window.h"
 #include "store/project_details.h"
 #include "store/project_session.h"
@@ -68,7 +69,7 @@ void create_project() {
         !platform::ask("File Already Exists!   Overwrite?")) {
         return;
     }
-    platform::copy_file(template_path, session.projectFilePath, {platform::journal_ending});
+    platform::copy_project(template_path, session.projectFilePath);
     const std::string name = take_chosen_folder();
     session.detailsUpdateMode = false;
     platform::show_wait_pointer(true);

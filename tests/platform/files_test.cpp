@@ -2,11 +2,17 @@
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
 
+#include <cerrno>
 #include <csignal>
 
+#include "platform/failure.h"
 #include "support/child_process.h"
+#include "support/fail_call.h"
 #include "support/failure_text.h"
+#include "support/kill_at_call.h"
 #include "support/outside_double.h"
 
 namespace gullymark::platform {
@@ -57,12 +63,116 @@ TEST_F(CopyFile, ReplacesWhatALinkLeadsToAndKeepsTheLink) {
     EXPECT_EQ(read_file(target), "new");
 }
 
-TEST_F(CopyFile, TakesAlongWhatBelongsToTheOldFile) {
-    write_file(target + "-journal", "undo");
-    write_file(target + "-notes", "mine");
-    copy_file(source, target, {"-journal"});
-    EXPECT_FALSE(file_exists(target + "-journal"));
-    EXPECT_EQ(read_file(target + "-notes"), "mine");
+TEST_F(CopyFile, LeavesAFileOfTheUsersThatHasAPartsName) {
+    write_file(target + ".part", "mine");
+    copy_file(source, target);
+    EXPECT_EQ(read_file(target + ".part"), "mine");
+    EXPECT_EQ(file_count(), 3);
+}
+
+TEST_F(CopyFile, WritesThroughNoLinkThatWasPlantedUnderAPartsName) {
+    const std::string other = folder.path("other");
+    write_file(other, "mine");
+    fs::create_symlink(other, target + ".part");
+    copy_file(source, target);
+    EXPECT_EQ(read_file(other), "mine");
+    EXPECT_FALSE(fs::is_symlink(target));
+}
+
+TEST_F(CopyFile, WaitsForNoPipe) {
+    const std::string pipe = folder.path("pipe");
+    ASSERT_EQ(mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR), 0);
+    EXPECT_EQ(failure_text([&] { copy_file(pipe, target); }), "This is no ordinary file: " + pipe);
+    EXPECT_FALSE(fs::exists(target));
+    EXPECT_EQ(failure_text([&] { copy_file(source, pipe); }), "This is no ordinary file: " + pipe);
+    EXPECT_TRUE(fs::is_fifo(pipe));
+    ASSERT_EQ(mkfifo((target + ".part").c_str(), S_IRUSR | S_IWUSR), 0);
+    copy_file(source, target);
+    EXPECT_EQ(read_file(target), "new");
+}
+
+TEST_F(CopyFile, RefusesADevice) {
+    EXPECT_EQ(failure_text([&] { copy_file(source, "/dev/null"); }), "This is no ordinary file: /dev/null");
+    EXPECT_EQ(failure_text([&] { copy_file("/dev/zero", target); }), "This is no ordinary file: /dev/zero");
+}
+
+TEST_F(CopyFile, TakesTheLongestNameThatThereIs) {
+    const std::string long_target = folder.path(std::string(255, 't'));
+    copy_file(source, long_target);
+    EXPECT_EQ(read_file(long_target), "new");
+}
+
+TEST_F(CopyFile, TakesANameInTheCurrentFolder) {
+    set_current_folder(folder.path());
+    copy_file("source", "target");
+    EXPECT_EQ(read_file(target), "new");
+}
+
+TEST_F(CopyFile, KilledAtAnyCallLeavesTheOldFileOrTheNewOne) {
+    int old_found = 0;
+    bool killed = true;
+    for (int call = 1; killed; ++call) {
+        write_file(target, "old");
+        killed = testing_support::kill_at_call(call, [&] { copy_file(source, target); });
+        const std::string content = read_file(target);
+        ASSERT_TRUE(content == "old" || content == "new") << content << " when killed at call " << call;
+        old_found += content == "old" ? 1 : 0;
+    }
+    EXPECT_GT(old_found, 5);
+    EXPECT_EQ(read_file(target), "new");
+}
+
+TEST_F(CopyFile, WhoseLastStepFailsKeepsTheOldFile) {
+    write_file(target, "old");
+    EXPECT_EQ(failure_text(
+                  [&] { copy_file(source, target, [](const std::string&) { throw Failure("not now"); }); }),
+              "not now");
+    EXPECT_EQ(read_file(target), "old");
+    EXPECT_EQ(file_count(), 2);
+}
+
+TEST_F(CopyFile, TellsThatItIsNotSureToBeOnTheDisk) {
+    write_file(target, "old");
+    testing_support::ChildProcess child([&] {
+        testing_support::fail_call(__NR_fsync, EIO);
+        if (failure_text([&] { copy_file(source, target); }) != "Input/output error: " + target) {
+            throw std::runtime_error("another failure");
+        }
+    });
+    EXPECT_TRUE(child.wait());
+    EXPECT_EQ(read_file(target), "old");
+    EXPECT_EQ(file_count(), 2);
+}
+
+TEST_F(CopyFile, BelievesAFileSystemThatCannotSynchronise) {
+    testing_support::ChildProcess child([&] {
+        testing_support::fail_call(__NR_fsync, EINVAL);
+        copy_file(source, target);
+    });
+    EXPECT_TRUE(child.wait());
+    EXPECT_EQ(read_file(target), "new");
+}
+
+TEST_F(CopyFile, TakesAFileSystemThatKnowsNoPermissions) {
+    testing_support::ChildProcess child([&] {
+        testing_support::fail_call(__NR_fchmod, EPERM);
+        copy_file(source, target);
+    });
+    EXPECT_TRUE(child.wait());
+    EXPECT_EQ(read_file(target), "new");
+}
+
+TEST_F(CopyFile, ThatCannotTakeTheOldFilesPlaceLeavesNothingBesideIt) {
+    write_file(target, "old");
+    testing_support::ChildProcess child([&] {
+        testing_support::fail_call(__NR_rename, EIO);
+        if (failure_text([&] { copy_file(source, target); }) != "Input/output error: " + target) {
+            throw std::runtime_error("another failure");
+        }
+    });
+    EXPECT_TRUE(child.wait());
+    EXPECT_EQ(read_file(target), "old");
+    EXPECT_EQ(file_count(), 2);
 }
 
 TEST_F(CopyFile, ThatFindsNoRoomKeepsTheOldFile) {
