@@ -3,8 +3,8 @@
 #include "engine/hydraulics/grate_types.h"
 #include "engine/step.h"
 
-/// What a grate and a combination of curb opening and grate on a continuous grade work out alike. Both sheets
-/// share one numbering: the steps here, and those of their own at the numbers left out here.
+/// What a grate and a combination of curb opening and grate on a continuous grade work out alike. Each procedure takes
+/// the number that its first step has in the sheet.
 namespace gullymark::engine {
 
 struct GrateOnGrade {
@@ -39,12 +39,12 @@ struct GrateOnGrade {
 
 void set_constants_of_grate_on_grade();
 
-void read_inputs(GrateOnGrade& s);               // steps 1 to 19
-void find_approach(GrateOnGrade& s);             // steps 21 to 40: spread, flow ratio, slopes
-void find_interception_length(GrateOnGrade& s);  // steps 42 to 44
-void find_depth_and_velocity(GrateOnGrade& s);   // steps 45 to 53
+void read_inputs(int first, GrateOnGrade& s);               // 19 steps
+void find_approach(int first, GrateOnGrade& s);             // 20 steps: spread, flow ratio, slopes
+void find_interception_length(int first, GrateOnGrade& s);  // 3 steps
+void find_depth_and_velocity(int first, GrateOnGrade& s);   // 9 steps
 
-/// The grate's efficiency at the velocity V over it: steps 61 to 68, and those of the frontal rule.
-void find_grate_efficiency(GrateOnGrade& s, Real V);
+/// The grate's efficiency at the velocity V over it, in 21 steps.
+void find_grate_efficiency(int first, GrateOnGrade& s, Real V);
 
 }  // namespace gullymark::engine

@@ -8,6 +8,15 @@
 namespace gullymark::engine {
 namespace {
 
+constexpr double meters_per_foot = 0.3048;
+
+// Share of the frontal flow that each ft/s above Vo splashes over; in metric units each m/s.
+constexpr double splash_over = 0.09;
+
+// Lengths in feet: a grate up to the one follows the parabola, from the other on it takes all of the frontal flow.
+constexpr double short_grate = 4.5;
+constexpr double longest_grate = 10.0;
+
 // clang-format off
 constexpr auto grate_types = std::to_array<GrateType>({
     // name               other name               Vmax   b1       b0      c2        c1     c0
@@ -41,7 +50,7 @@ std::vector<std::string_view> grate_names() {
 
 void convert_grate_length(int number, FrontalFlow& frontal) {
     if (!is_english()) {
-        step(number, frontal.Lf, [] { return number_in(Column::INLETLENGTH) / 0.3048; });
+        step(number, frontal.Lf, [] { return number_in(Column::INLETLENGTH) / meters_per_foot; });
     }
 }
 
@@ -49,7 +58,7 @@ Real grate_length_in_feet(const FrontalFlow& frontal) {
     return is_english() ? number_in(Column::INLETLENGTH) : frontal.Lf;
 }
 
-void find_frontal_efficiency(FrontalFlow& frontal, Real V) {
+void find_frontal_efficiency(int first, FrontalFlow& frontal, Real V) {
     const GrateType* const grate = grate_type(open_inlet.text(Column::GRATETYPE));
     if (grate == nullptr) {
         return;
@@ -57,24 +66,24 @@ void find_frontal_efficiency(FrontalFlow& frontal, Real V) {
     auto& Vo = frontal.Vo;
     auto& Rf = frontal.Rf;
     const auto length = [&frontal] { return grate_length_in_feet(frontal); };
-    const auto by_velocity = [&] { return 1.0 - 0.09 * (V - Vo); };
-    if (holds(101, [&] { return length() >= 10.0; })) {
-        step(102, Rf, [] { return Real(1.0); });
-    } else if (holds(103, [&] { return length() > 4.5 && length() < 10.0; })) {
+    const auto by_velocity = [&] { return 1.0 - splash_over * (V - Vo); };
+    if (holds(first, [&] { return length() >= longest_grate; })) {
+        step(first + 1, Rf, [] { return Real(1.0); });
+    } else if (holds(first + 2, [&] { return length() > short_grate && length() < longest_grate; })) {
         // Only the longer grates have a limit of velocity.
-        if (!holds(104, [&] { return V >= grate->Vmax; })) {
-            step(105, Vo, [&] { return grate->b1 * length() + grate->b0; });
-            step(106, Rf, by_velocity);
+        if (!holds(first + 3, [&] { return V >= grate->Vmax; })) {
+            step(first + 4, Vo, [&] { return grate->b1 * length() + grate->b0; });
+            step(first + 5, Rf, by_velocity);
         }
-    } else if (holds(107, [&] { return length() > 0.0 && length() < 4.5; })) {
-        step(108, Vo, [&] { return grate->c2 * square(length()) + grate->c1 * length() + grate->c0; });
-        step(109, Rf, by_velocity);
+    } else if (holds(first + 6, [&] { return length() > 0.0 && length() < short_grate; })) {
+        step(first + 7, Vo, [&] { return grate->c2 * square(length()) + grate->c1 * length() + grate->c0; });
+        step(first + 8, Rf, by_velocity);
     }
-    if (holds(110, [&] { return Rf > 1.0; })) {
-        step(111, Rf, [] { return Real(1.0); });
+    if (holds(first + 9, [&] { return Rf > 1.0; })) {
+        step(first + 10, Rf, [] { return Real(1.0); });
     }
-    if (holds(112, [&] { return Rf < 0.0; })) {
-        step(113, Rf, [] { return Real(0.0); });
+    if (holds(first + 11, [&] { return Rf < 0.0; })) {
+        step(first + 12, Rf, [] { return Real(0.0); });
     }
 }
 

@@ -29,14 +29,14 @@ const GrateType* grate_type(std::string_view text);
 /// The names of all types in the order of a list to pick from; those of the unit system in force.
 std::vector<std::string_view> grate_names();
 
-/// The part of a sheet that finds the frontal efficiency Rf. Its steps are 101 to 113 in every sheet.
+/// The part of a sheet that finds the frontal efficiency Rf.
 struct FrontalFlow {
     Quantity Lf{"Lf", Unit::other, "length of the grate in ft"};
     Quantity Vo{"Vo", Unit::other, "velocity of splash-over"};
     Quantity Rf{"Rf", Unit::ratio, "efficiency for frontal flow"};
 };
 
-/// Converts a metric INLETLENGTH into Lf. An ENGLISH length is already in feet and stays a text.
+/// Converts a metric INLETLENGTH into Lf, which is one step. An ENGLISH length is already in feet and stays a text.
 void convert_grate_length(int number, FrontalFlow& frontal);
 
 /// The length of the grate in feet: in ENGLISH units the number in INLETLENGTH, so that a text that is none
@@ -48,7 +48,8 @@ Real grate_length_in_feet(const FrontalFlow& frontal);
 ///   Rf = 1 for Lf >= 10, 0 for 4.5 < Lf < 10 and V >= Vmax, else 1 - 0.09 (V - Vo), held within 0 and 1
 ///
 /// An unknown grate, a length of 0 or below and one of exactly 4.5 ft give 0. A metric velocity goes in as it
-/// is: the fits stand for both unit systems. Both the hole at 4.5 and the unconverted velocity are meant.
-void find_frontal_efficiency(FrontalFlow& frontal, Real V);
+/// is: the fits stand for both unit systems. The hole at 4.5 and the unconverted velocity are deliberate. Thirteen steps
+/// from `first` on.
+void find_frontal_efficiency(int first, FrontalFlow& frontal, Real V);
 
 }  // namespace gullymark::engine

@@ -7,25 +7,19 @@
 /// What several solvers do to inputs that a designer left blank or too flat. The repaired text stays in the record.
 namespace gullymark::engine {
 
-/// The numbers of a condition and of the step inside it.
-struct Branch {
-    int condition;
-    int inside;
-};
+/// The inlet slope, in either system of units, of the solvers that do not copy one of the record.
+inline constexpr std::string_view usual_inlet_slope = "0.1";
 
-/// A blank `column` takes `text`.
-inline void fill_blank(Branch branch, Column column, std::string_view text) {
-    if (holds(branch.condition, [&] { return open_inlet.text(column).empty(); })) {
-        step(branch.inside, column, [&] { return text; });
-    }
-}
+/// A blank `column` takes `text`. Two steps from `first` on.
+void fill_blank(int first, Column column, std::string_view text);
 
 /// An INLETXSLOPE flatter than the pavement takes the text of PAVXSLOPE. `pavement_slope` gives the slope to compare
-/// with: some solvers read the column anew, so that an unreadable one faults here and enters the branch.
+/// with: some solvers read the column anew, so that an unreadable one faults here and enters the branch. Two steps
+/// from `first` on.
 template <typename Slope>
-void raise_inlet_slope(Branch branch, Slope pavement_slope) {
-    if (holds(branch.condition, [&] { return pavement_slope() > number_in(Column::INLETXSLOPE); })) {
-        step(branch.inside, Column::INLETXSLOPE,
+void raise_inlet_slope(int first, Slope pavement_slope) {
+    if (holds(first, [&] { return pavement_slope() > number_in(Column::INLETXSLOPE); })) {
+        step(first + 1, Column::INLETXSLOPE,
              [] { return std::string_view(open_inlet.text(Column::PAVXSLOPE)); });
     }
 }

@@ -30,9 +30,10 @@ class Sump {
         if (head > 0.0) {
             const Real grate = flow_.A * root;
             const Real throat = flow_.B * flow_.C * (2.0 * flow_.g) * power(head, 0.5);
-            return judge(0.67 * (grate + throat), std::fabs(grate.number()) + std::fabs(throat.number()));
+            return judge(orifice_coefficient * (grate + throat),
+                         std::fabs(grate.number()) + std::fabs(throat.number()));
         }
-        const Real grate = 0.67 * flow_.A * root;
+        const Real grate = orifice_coefficient * flow_.A * root;
         return judge(grate, std::fabs(grate.number()));
     }
 

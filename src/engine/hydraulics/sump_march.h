@@ -4,8 +4,11 @@
 
 namespace gullymark::engine {
 
-/// The throat of a curb opening as the march knows it. None of the three leaves no head on the throat.
-enum class Throat : unsigned char { none = 0, horizontal = 1, inclined = 2, vertical = 3 };
+/// Orifice coefficient of a grate and of a curb opening.
+inline constexpr double orifice_coefficient = 0.67;
+
+/// The throat of a curb opening as the march knows it. `none` leaves no head on the throat.
+enum class Throat : unsigned char { none, horizontal, inclined, vertical };
 
 /// Depth over a grate and a curb opening that work together in a sump.
 struct SumpFlow {

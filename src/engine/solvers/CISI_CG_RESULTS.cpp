@@ -49,11 +49,11 @@ void read_inputs() {
     step(5, s.Sx, [] { return number_in(PAVXSLOPE); });
     step(6, s.Sw, [] { return number_in(GUTXSLOPE); });
     step(7, s.Wa, [] { return number_in(LOCDEPWIDTH); });
-    // A blank inlet slope is that of the gutter here, that of the pavement in a sump: both are meant.
-    fill_blank({8, 9}, INLETXSLOPE, open_inlet.text(GUTXSLOPE));
-    raise_inlet_slope({10, 11}, [] { return number_in(PAVXSLOPE); });
+    // A blank inlet slope is that of the gutter here, that of the pavement in a sump; the difference is deliberate.
+    fill_blank(8, INLETXSLOPE, open_inlet.text(GUTXSLOPE));
+    raise_inlet_slope(10, [] { return number_in(PAVXSLOPE); });
     step(12, s.SdashW, [] { return number_in(INLETXSLOPE); });
-    fill_blank({13, 14}, GRATEPERCLOG, "0");
+    fill_blank(13, GRATEPERCLOG, "0");
     step(15, s.a, [&s] { return s.W * (s.SdashW - s.Sw); });
     step(16, s.limit, [] { return number_in(ALLOWABLE_SPREAD); });
 }

@@ -2,21 +2,20 @@
 
 #include "engine/hydraulics/approach_spread.h"
 #include "engine/hydraulics/inlet_repairs.h"
+#include "engine/hydraulics/sump_inlets.h"
 #include "engine/results.h"
 #include "engine/step.h"
 #include "engine/unit_constants.h"
+#include "engine/words.h"
 
 namespace gullymark::engine::CI_SU_RESULTS {
 namespace {
 
 using enum Column;
 
-struct Sheet {
-    Quantity Q{"Q", Unit::discharge, "flow that the inlet must take"};
-    Quantity Q1{"Q1", Unit::discharge, "flow of the left side"};
-    Quantity Q2{"Q2", Unit::discharge, "flow of the right side"};
-    Quantity Qg{"Qg", Unit::discharge, "flow of the heavier side"};
-    Quantity h{"h", Unit::other, "height of the opening, read in in or mm, used in ft or m"};
+struct Sheet : SumpFlows {
+    Quantity ht{"ht", Unit::depth, "height of the opening as typed"};
+    Quantity h{"h", Unit::length, "height of the opening"};
     Quantity angle{"angle", Unit::degrees, "angle of an inclined throat"};
     Quantity W{"W", Unit::length, "gutter width"};
     Quantity Sx{"Sx", Unit::slope, "pavement cross slope"};
@@ -44,6 +43,12 @@ struct Sheet {
 
 Sheet sheet;
 
+// The share of the depression's width that lengthens the weir.
+constexpr double depression_share = 1.8;
+
+// From this share of the opening's height on the weir depth makes the flow that of an orifice.
+constexpr double orifice_share = 1.4;
+
 /// Of a curb opening as a weir, without and with a depression, in ft and m; FHWA HEC-22.
 double weirCoefficientPlain() {
     return by_units(3.0, 1.6);
@@ -52,28 +57,18 @@ double weirCoefficientDepressed() {
     return by_units(2.3, 1.25);
 }
 
-void read_flows() {
+void read_inputs() {
     auto& s = sheet;
-    step(1, s.Q, [] { return number_in(TOTAL_DISCHARGE); });
-    step(2, s.Q1, [] { return number_in(CARRYOVER1) + number_in(DISCHARGE1); });
-    step(3, s.Q2, [] { return number_in(CARRYOVER2) + number_in(DISCHARGE2); });
-    fill_blank({4, 5}, GRATEPERCLOG, "0");
-    step(6, s.Qg, [&s] { return s.Q1; });
-    if (holds(7, [&s] { return s.Q1 < s.Q2; })) {
-        step(8, s.Qg, [&s] { return s.Q2; });
-    }
-}
-
-void read_section() {
-    auto& s = sheet;
-    step(9, s.h, [] { return number_in(HEIGHTOFCURB); });
+    read_sump_flows(1, s);
+    fill_blank(7, GRATEPERCLOG, "0");
+    step(9, s.ht, [] { return number_in(HEIGHTOFCURB); });
     step(10, s.angle, [] { return number_in(THROATANGLE); });
     step(11, s.W, [] { return number_in(GUTWIDTH); });
     step(12, s.Sx, [] { return number_in(PAVXSLOPE); });
     step(13, s.Sw, [] { return number_in(GUTXSLOPE); });
-    // A blank inlet slope is that of the pavement here, that of the gutter on grade: both are meant.
-    fill_blank({14, 15}, INLETXSLOPE, open_inlet.text(PAVXSLOPE));
-    raise_inlet_slope({16, 17}, [&s] { return s.Sx; });
+    // A blank inlet slope is that of the pavement here, that of the gutter on grade; the difference is deliberate.
+    fill_blank(14, INLETXSLOPE, open_inlet.text(PAVXSLOPE));
+    raise_inlet_slope(16, [&s] { return s.Sx; });
     step(18, s.SdashW, [] { return number_in(INLETXSLOPE); });
     step(19, s.Wa, [] { return number_in(LOCDEPWIDTH); });
     step(20, s.a, [&s] { return (s.SdashW - s.Sw) * s.W; });
@@ -93,12 +88,12 @@ void find_gutter_spread() {
 void find_weir_depth() {
     auto& s = sheet;
     const Real length_limit = static_cast<double>(unit_constants.curbLengthLimit);
-    step(28, s.h, [&s] { return s.h / unit_constants.depthFactor; });
+    step(28, s.h, [&s] { return s.ht / unit_constants.depthFactor; });
     if (holds(29, [&s, length_limit] { return s.L > length_limit || s.Wa == 0.0; })) {
         step(30, s.P, [&s] { return s.L; });
         step(31, s.Cw, [] { return Real(weirCoefficientPlain()); });
     } else if (holds(32, [&s] { return s.Wa > 0.0; })) {
-        step(33, s.P, [&s] { return s.L + 1.8 * s.Wa; });
+        step(33, s.P, [&s] { return s.L + depression_share * s.Wa; });
         step(34, s.Cw, [] { return Real(weirCoefficientDepressed()); });
     }
     step(35, s.weir_depth, [&s] { return power(s.Q / (s.Cw * s.P), 0.667); });
@@ -106,17 +101,18 @@ void find_weir_depth() {
 
 void find_orifice_depth() {
     auto& s = sheet;
-    const auto throat_is = [](std::string_view kind) { return open_inlet.text(THROATYPE) == kind; };
-    step(36, s.orifice_depth,
-         [&s] { return square(s.Q / (0.67 * s.h * s.L)) / (2.0 * Real(unit_constants.gravity)); });
-    if (holds(37, [&throat_is] { return throat_is("Horizontal"); })) {
+    const Throat throat = throat_named(open_inlet.text(THROATYPE));
+    step(36, s.orifice_depth, [&s] {
+        return square(s.Q / (orifice_coefficient * s.h * s.L)) / (2.0 * Real(unit_constants.gravity));
+    });
+    if (holds(37, [throat] { return throat == Throat::horizontal; })) {
         step(38, s.ho, [&s] { return s.orifice_depth + s.h / 2.0; });
     }
-    if (holds(39, [&throat_is] { return throat_is("Inclined"); })) {
-        step(40, s.radians, [&s] { return s.angle * 3.14159265358979 / 180.0; });
+    if (holds(39, [throat] { return throat == Throat::inclined; })) {
+        step(40, s.radians, [&s] { return in_radians(s.angle); });
         step(41, s.ho, [&s] { return s.orifice_depth + s.h / 2.0 * sine(s.radians); });
     }
-    if (holds(42, [&throat_is] { return throat_is("Vertical"); })) {
+    if (holds(42, [throat] { return throat == Throat::vertical; })) {
         step(43, s.ho, [&s] { return s.orifice_depth; });
     }
 }
@@ -125,16 +121,16 @@ void choose_regime() {
     auto& s = sheet;
     const auto spread_over_depression = [&s] { return (s.D - s.a) / s.Sx + s.Wa; };
     step(44, s.Tw, [] { return Real(0.0); });
-    if (holds(45, [&s] { return 1.4 * s.h < s.weir_depth; })) {
-        step(46, INLETPERF, [] { return std::string_view("Orifice Flow"); });
+    if (holds(45, [&s] { return orifice_share * s.h < s.weir_depth; })) {
+        step(46, INLETPERF, [] { return words::orifice_flow; });
         step(47, s.D, [&s] { return s.ho; });
         step(48, s.Tw, spread_over_depression);
     } else if (holds(49, [&s] { return s.weir_depth > s.h; })) {
-        step(50, INLETPERF, [] { return std::string_view("Transition Flow"); });
+        step(50, INLETPERF, [] { return words::transition_flow; });
         step(51, s.D, [&s] { return (s.weir_depth + s.ho) / 2.0; });
         step(52, s.Tw, spread_over_depression);
     } else {
-        step(53, INLETPERF, [] { return std::string_view("Weir Flow"); });
+        step(53, INLETPERF, [] { return words::weir_flow; });
         step(54, s.D, [&s] { return s.weir_depth; });
     }
 }
@@ -162,8 +158,7 @@ void compute_results() {
     set_gutterFlowConstant();
     sheet = {};
 
-    read_flows();
-    read_section();
+    read_inputs();
     find_gutter_spread();
     find_weir_depth();
     find_orifice_depth();

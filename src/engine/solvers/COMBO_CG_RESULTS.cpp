@@ -31,7 +31,7 @@ bool inputs_are_refused() {
 }
 
 void round_composite_slope() {
-    // A grate alone goes on with all digits: both are meant.
+    // A grate alone goes on with all digits, deliberately.
     auto& Se = sheet.grate.Se;
     step(41, Se, [&Se] { return rounded(Se, "0.0000"); });
 }
@@ -51,13 +51,13 @@ void find_share_of_curb() {
 
 void find_interception() {
     auto& s = sheet;
-    step(69, s.Qig,
+    step(82, s.Qig,
          [&s] { return s.Qr * (s.grate.frontal.Rf * s.grate.Eg + s.grate.Rs * (1.0 - s.grate.Eg)); });
-    step(70, QINTGRATE, [&s] { return s.Qig; });
-    step(71, s.Qi, [&s] { return s.Qic + s.Qig; });
-    step(72, QINT, [&s] { return s.Qi; });
-    step(73, s.Qc, [&s] { return s.grate.Q - s.Qi; });
-    step(74, QCARRY, [&s] { return s.Qc; });
+    step(83, QINTGRATE, [&s] { return s.Qig; });
+    step(84, s.Qi, [&s] { return s.Qic + s.Qig; });
+    step(85, QINT, [&s] { return s.Qi; });
+    step(86, s.Qc, [&s] { return s.grate.Q - s.Qi; });
+    step(87, QCARRY, [&s] { return s.Qc; });
 }
 
 }  // namespace
@@ -67,17 +67,17 @@ void compute_results() {
     sheet = {};
     auto& grate = sheet.grate;
 
-    read_inputs(grate);
+    read_inputs(1, grate);
     if (inputs_are_refused()) {
         platform::tell(invalid_input);
         return;
     }
-    find_approach(grate);
+    find_approach(21, grate);
     round_composite_slope();
-    find_interception_length(grate);
-    find_depth_and_velocity(grate);
+    find_interception_length(42, grate);
+    find_depth_and_velocity(45, grate);
     find_share_of_curb();
-    find_grate_efficiency(grate, sheet.Vr);
+    find_grate_efficiency(61, grate, sheet.Vr);
     find_interception();
     format_results();
 }

@@ -2,24 +2,24 @@
 
 #include "engine/hydraulics/approach_spread.h"
 #include "engine/hydraulics/inlet_repairs.h"
+#include "engine/hydraulics/sump_inlets.h"
 #include "engine/results.h"
 #include "engine/step.h"
 #include "engine/unit_constants.h"
-#include "platform/number_text.h"
+#include "engine/words.h"
 
 namespace gullymark::engine::COMBO_SU_RESULTS {
 namespace {
 
 using enum Column;
 
-struct Sheet {
-    Quantity Q{"Q", Unit::discharge, "flow that the inlet must take"};
-    Quantity Ql{"Ql", Unit::discharge, "flow of the left side"};
-    Quantity Qr{"Qr", Unit::discharge, "flow of the right side"};
-    Quantity Qg{"Qg", Unit::discharge, "flow of the heavier side"};
+struct Sheet : SumpFlows {
     Quantity L{"L", Unit::length, "length of grate and curb opening"};
-    Quantity h{"h", Unit::other, "height of the curb opening, read in in or mm, used in ft or m"};
-    Quantity angle{"angle", Unit::other, "angle of an inclined throat, read in degrees, used in radians"};
+    Quantity ht{"ht", Unit::depth, "height of the curb opening as typed"};
+    Quantity h{"h", Unit::length, "height of the curb opening"};
+    Quantity angle{"angle", Unit::degrees, "angle of an inclined throat"};
+    Quantity radians{"radians", Unit::other, "angle of an inclined throat in radians"};
+    Throat throat = Throat::none;
     Quantity P{"P", Unit::length, "gross perimeter of the grate"};
     Quantity A{"A", Unit::area, "gross opening area of the grate"};
     Quantity Wg{"Wg", Unit::length, "width of the grate"};
@@ -33,7 +33,6 @@ struct Sheet {
     Quantity n{"n", Unit::ratio, "Manning's roughness"};
     Quantity limit{"limit", Unit::length, "allowable spread"};
     Quantity Tg{"Tg", Unit::length, "spread of the gutter flow"};
-    Quantity throat{"throat", Unit::ratio, "1 horizontal, 2 inclined, 3 vertical, 0 unknown"};
     Quantity Ae{"Ae", Unit::area, "opening area that clogging leaves"};
     Quantity Pe{"Pe", Unit::length, "perimeter that clogging leaves"};
     Quantity weir_depth{"dw", Unit::length, "depth of weir flow"};
@@ -48,32 +47,18 @@ struct Sheet {
 Sheet sheet;
 
 std::string perimeter_that_clogging_leaves() {
-    const auto& s = sheet;
-    const Real perimeter = s.L + (s.P - s.L) * (1.0 - s.C / 100.0);
-    return platform::format_number(perimeter.number(), "0.000");
-}
-
-void read_flows() {
-    auto& s = sheet;
-    step(1, s.Q, [] { return number_in(TOTAL_DISCHARGE); });
-    step(2, s.Ql, [] { return number_in(CARRYOVER1) + number_in(DISCHARGE1); });
-    step(3, s.Qr, [] { return number_in(CARRYOVER2) + number_in(DISCHARGE2); });
-    if (holds(4, [&s] { return s.Ql >= s.Qr; })) {
-        step(5, s.Qg, [&s] { return s.Ql; });
-    } else {
-        step(6, s.Qg, [&s] { return s.Qr; });
-    }
+    return clogged_perimeter(sheet.P, sheet.L, sheet.C);
 }
 
 void read_inlet() {
     auto& s = sheet;
     step(7, s.L, [] { return number_in(INLETLENGTH); });
-    step(8, s.h, [] { return number_in(HEIGHTOFCURB); });
+    step(8, s.ht, [] { return number_in(HEIGHTOFCURB); });
     step(9, s.angle, [] { return number_in(THROATANGLE); });
     step(10, s.P, [] { return number_in(GRATEPERI); });
     step(11, s.A, [] { return number_in(GRATEAREA); });
     step(12, s.Wg, [] { return number_in(GRATEWIDTH); });
-    fill_blank({13, 14}, GRATEPERCLOG, "0");
+    fill_blank(13, GRATEPERCLOG, "0");
     step(15, s.C, [] { return number_in(GRATEPERCLOG); });
     step(16, EFFPERI, perimeter_that_clogging_leaves);
 }
@@ -84,12 +69,12 @@ void read_section() {
     step(18, s.Sx, [] { return number_in(PAVXSLOPE); });
     step(19, s.Sw, [] { return number_in(GUTXSLOPE); });
     step(20, s.Wa, [] { return number_in(LOCDEPWIDTH); });
-    // Before the gutter spread, where the grate alone widens the gutter behind it: both are meant.
+    // Before the gutter spread, where the grate alone widens the gutter behind it, deliberately.
     if (holds(21, [&s] { return s.W < s.Wg; })) {
         step(22, s.W, [&s] { return s.Wg; });
     }
-    fill_blank({23, 24}, INLETXSLOPE, "0.1");
-    raise_inlet_slope({25, 26}, [] { return number_in(PAVXSLOPE); });
+    fill_blank(23, INLETXSLOPE, usual_inlet_slope);
+    raise_inlet_slope(25, [] { return number_in(PAVXSLOPE); });
     step(27, s.SdashW, [] { return number_in(INLETXSLOPE); });
     step(28, s.S, [] { return number_in(LONGSLOPE); });
     step(29, s.n, [] { return number_in(MANNINGS); });
@@ -105,15 +90,10 @@ void find_gutter_spread() {
 
 void find_throat() {
     auto& s = sheet;
-    const auto throat_is = [](std::string_view kind) { return open_inlet.text(THROATYPE) == kind; };
-    step(34, s.h, [&s] { return s.h / unit_constants.depthFactor; });
-    if (holds(35, [&throat_is] { return throat_is("Horizontal"); })) {
-        step(36, s.throat, [] { return Real(1.0); });
-    } else if (holds(37, [&throat_is] { return throat_is("Inclined"); })) {
-        step(38, s.throat, [] { return Real(2.0); });
-        step(39, s.angle, [&s] { return s.angle * 3.14159265358979 / 180.0; });
-    } else if (holds(40, [&throat_is] { return throat_is("Vertical"); })) {
-        step(41, s.throat, [] { return Real(3.0); });
+    step(34, s.h, [&s] { return s.ht / unit_constants.depthFactor; });
+    s.throat = throat_named(open_inlet.text(THROATYPE));
+    if (holds(35, [&s] { return s.throat == Throat::inclined; })) {
+        step(36, s.radians, [&s] { return in_radians(s.angle); });
     }
 }
 
@@ -125,64 +105,65 @@ Real depth_over_grate_and_opening() {
                                .B = s.h,
                                .h = s.h,
                                .C = s.L,
-                               .throat = static_cast<Throat>(static_cast<int>(s.throat.value.number())),
-                               .angle = s.angle});
+                               .throat = s.throat,
+                               .angle = s.radians});
 }
 
 void find_depth() {
     auto& s = sheet;
     const Real grateWeirCoefficient = by_units(3.0F, 1.6F);  // 32-bit by nature
-    step(42, s.Ae, [&s] { return (1.0 - s.C / 100.0) * s.A; });
-    step(43, s.Pe, [] { return number_in(EFFPERI); });
-    if (holds(44, [&s] { return s.C != 100.0 && s.P != 0.0 && s.A != 0.0; })) {
-        step(45, s.weir_depth,
+    step(37, s.Ae, [&s] { return (1.0 - s.C / 100.0) * s.A; });
+    step(38, s.Pe, [] { return number_in(EFFPERI); });
+    if (holds(39, [&s] { return s.C != 100.0 && s.P != 0.0 && s.A != 0.0; })) {
+        step(40, s.weir_depth,
              [&s, grateWeirCoefficient] { return power(s.Q / (grateWeirCoefficient * s.Pe), 0.6667); });
-        if (holds(46, [&s] { return s.weir_depth > s.h; })) {
-            step(47, s.orifice_depth, depth_over_grate_and_opening);
+        if (holds(41, [&s] { return s.weir_depth > s.h; })) {
+            step(42, s.orifice_depth, depth_over_grate_and_opening);
         }
     } else {
-        // The shorter exponent belongs to the curb opening: both are meant.
-        step(48, s.weir_depth, [&s] { return power(s.Q / (unit_constants.weirCoefficient * s.L), 0.667); });
-        step(49, s.orifice_depth,
-             [&s] { return square(s.Q / (0.67 * s.h * s.L)) / (2.0 * Real(unit_constants.gravity)); });
+        // The shorter exponent belongs to the curb opening, deliberately.
+        step(43, s.weir_depth, [&s] { return power(s.Q / (unit_constants.weirCoefficient * s.L), 0.667); });
+        step(44, s.orifice_depth, [&s] {
+            return square(s.Q / (orifice_coefficient * s.h * s.L)) / (2.0 * Real(unit_constants.gravity));
+        });
     }
-    if (holds(50, [&s] { return s.weir_depth >= s.orifice_depth; })) {
-        step(51, s.d, [&s] { return s.weir_depth; });
+    if (holds(45, [&s] { return s.weir_depth >= s.orifice_depth; })) {
+        step(46, s.d, [&s] { return s.weir_depth; });
     } else {
-        step(52, s.d, [&s] { return s.orifice_depth; });
+        step(47, s.d, [&s] { return s.orifice_depth; });
     }
     // Equal depths are orifice flow, though the depth is that of the weir.
-    if (holds(53, [&s] { return s.weir_depth > s.orifice_depth; })) {
-        step(54, INLETPERF, [] { return std::string_view("Weir Flow"); });
+    if (holds(48, [&s] { return s.weir_depth > s.orifice_depth; })) {
+        step(49, INLETPERF, [] { return words::weir_flow; });
     } else {
-        step(55, INLETPERF, [] { return std::string_view("Orifice Flow"); });
+        step(50, INLETPERF, [] { return words::orifice_flow; });
     }
 }
 
 void find_spread_at_inlet() {
     auto& s = sheet;
-    step(56, s.e, [&s] { return s.W * s.SdashW / 2.0; });
-    step(57, s.de, [&s] { return s.d - s.e; });
-    step(58, s.di, [&s] { return s.e + s.d; });
+    step(51, s.e, [&s] { return s.W * s.SdashW / 2.0; });
+    step(52, s.de, [&s] { return s.d - s.e; });
+    step(53, s.di, [&s] { return s.e + s.d; });
     // A negative depth at the edge is no case of its own here, unlike the grate alone.
-    step(59, s.Ti, [&s] { return s.de / s.Sx + s.W; });
-    if (holds(60, [&s] { return s.Ti < 0.0; })) {
-        step(61, s.Ti, [] { return Real(0.0); });
+    step(54, s.Ti, [&s] { return s.de / s.Sx + s.W; });
+    if (holds(55, [&s] { return s.Ti < 0.0; })) {
+        step(56, s.Ti, [] { return Real(0.0); });
     }
 }
 
 void write_results() {
     auto& s = sheet;
-    step(62, DEPTHATINLET, [&s] { return s.di * unit_constants.depthFactor; });
-    step(63, OPENSPREAD, [&s] { return s.Ti; });
-    step(64, RAREA, [&s] { return s.Ae; });
-    step(65, RPERI, [&s] { return s.Pe; });
-    if (holds(66, [&s] { return s.Ti > s.Tg; })) {
-        step(67, CURBDEPTH, [&s] { return s.Ti * s.Sx * unit_constants.depthFactor; });
+    step(57, DEPTHATINLET, [&s] { return s.di * unit_constants.depthFactor; });
+    step(58, OPENSPREAD, [&s] { return s.Ti; });
+    step(59, RAREA, [&s] { return s.Ae; });
+    step(60, RPERI, [&s] { return s.Pe; });
+    if (holds(61, [&s] { return s.Ti > s.Tg; })) {
+        step(62, CURBDEPTH, [&s] { return s.Ti * s.Sx * unit_constants.depthFactor; });
     } else {
-        step(68, CURBDEPTH, [&s] { return s.Tg * s.Sx * unit_constants.depthFactor; });
+        step(63, CURBDEPTH, [&s] { return s.Tg * s.Sx * unit_constants.depthFactor; });
     }
-    step(69, QINT, [&s] { return s.Q; });
+    step(64, QINT, [&s] { return s.Q; });
 }
 
 }  // namespace
@@ -194,7 +175,7 @@ void compute_results() {
     unit_constants.weirCoefficient = by_units(2.3, 1.25);
     sheet = {};
 
-    read_flows();
+    read_sump_flows(1, sheet);
     read_inlet();
     read_section();
     find_gutter_spread();

@@ -19,10 +19,10 @@ Sheet sheet;
 
 void find_interception() {
     auto& s = sheet;
-    step(71, s.Qi, [&s] { return s.grate.E * s.grate.Q; });
-    step(72, QINT, [&s] { return s.Qi; });
-    step(73, s.Qc, [&s] { return s.grate.Q - s.Qi; });
-    step(74, QCARRY, [&s] { return s.Qc; });
+    step(73, s.Qi, [&s] { return s.grate.E * s.grate.Q; });
+    step(74, QINT, [&s] { return s.Qi; });
+    step(75, s.Qc, [&s] { return s.grate.Q - s.Qi; });
+    step(76, QCARRY, [&s] { return s.Qc; });
 }
 
 }  // namespace
@@ -32,11 +32,11 @@ void compute_results() {
     sheet = {};
     auto& grate = sheet.grate;
 
-    read_inputs(grate);
-    find_approach(grate);
-    find_interception_length(grate);
-    find_depth_and_velocity(grate);
-    find_grate_efficiency(grate, grate.V);
+    read_inputs(1, grate);
+    find_approach(20, grate);
+    find_interception_length(40, grate);
+    find_depth_and_velocity(43, grate);
+    find_grate_efficiency(52, grate, grate.V);
     find_interception();
     format_results();
 }

@@ -28,9 +28,8 @@
 ///         PAVXSLOPE)
 /// Writes  OPENSPREAD WT FLOWRATIO DEPXSLOPE COMPXSLOPE INTLEN CURBDEPTH FLOWVEL EFFICIENCY QINT QCARRY
 ///
-/// Runs under the step rule of step.h and shows no message of its own. Steps 1 to 68 stand in
-/// grate_on_grade.h, those from 101 in grate_types.h; the numbers that are left out belong to
-/// COMBO_CG_RESULTS.
+/// Runs under the step rule of step.h and shows no message of its own. Most steps stand in grate_on_grade.h,
+/// those of the frontal efficiency in grate_types.h.
 ///
 /// Source: FHWA, Urban Drainage Design Manual (HEC-22), chapter 4, grate inlets on grade; coefficients and
 /// limits are this system's own.

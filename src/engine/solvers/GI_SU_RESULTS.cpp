@@ -2,10 +2,11 @@
 
 #include "engine/hydraulics/approach_spread.h"
 #include "engine/hydraulics/inlet_repairs.h"
+#include "engine/hydraulics/sump_inlets.h"
 #include "engine/results.h"
 #include "engine/step.h"
 #include "engine/unit_constants.h"
-#include "platform/number_text.h"
+#include "engine/words.h"
 #include "platform/outside.h"
 
 namespace gullymark::engine::GI_SU_RESULTS {
@@ -13,11 +14,7 @@ namespace {
 
 using enum Column;
 
-struct Sheet {
-    Quantity Q{"Q", Unit::discharge, "flow that the inlet must take"};
-    Quantity Ql{"Ql", Unit::discharge, "flow of the left side"};
-    Quantity Qr{"Qr", Unit::discharge, "flow of the right side"};
-    Quantity Qg{"Qg", Unit::discharge, "flow of the heavier side"};
+struct Sheet : SumpFlows {
     Quantity P{"P", Unit::length, "gross perimeter of the grate"};
     Quantity A{"A", Unit::area, "gross opening area of the grate"};
     Quantity Wg{"Wg", Unit::length, "width of the grate"};
@@ -44,18 +41,6 @@ struct Sheet {
 
 Sheet sheet;
 
-void read_flows() {
-    auto& s = sheet;
-    step(1, s.Q, [] { return number_in(TOTAL_DISCHARGE); });
-    step(2, s.Ql, [] { return number_in(CARRYOVER1) + number_in(DISCHARGE1); });
-    step(3, s.Qr, [] { return number_in(CARRYOVER2) + number_in(DISCHARGE2); });
-    if (holds(4, [&s] { return s.Ql >= s.Qr; })) {
-        step(5, s.Qg, [&s] { return s.Ql; });
-    } else {
-        step(6, s.Qg, [&s] { return s.Qr; });
-    }
-}
-
 void read_section() {
     auto& s = sheet;
     step(7, s.P, [] { return number_in(GRATEPERI); });
@@ -67,22 +52,17 @@ void read_section() {
     step(13, s.Sx, [] { return number_in(PAVXSLOPE); });
     step(14, s.Sw, [] { return number_in(GUTXSLOPE); });
     step(15, s.Wa, [] { return number_in(LOCDEPWIDTH); });
-    fill_blank({16, 17}, INLETXSLOPE, "0.1");
-    raise_inlet_slope({18, 19}, [] { return number_in(PAVXSLOPE); });
+    fill_blank(16, INLETXSLOPE, usual_inlet_slope);
+    raise_inlet_slope(18, [] { return number_in(PAVXSLOPE); });
     step(20, s.SdashW, [] { return number_in(INLETXSLOPE); });
-    fill_blank({21, 22}, GRATEPERCLOG, "0");
+    fill_blank(21, GRATEPERCLOG, "0");
     step(23, s.limit, [] { return number_in(ALLOWABLE_SPREAD); });
     step(24, s.C, [] { return number_in(GRATEPERCLOG); });
 }
 
 void find_perimeter_and_gutter_spread() {
     auto& s = sheet;
-    // Clogging shortens only the part of the rim beyond one length.
-    step(25, EFFPERI, [&s] {
-        const Real length = number_in(INLETLENGTH);
-        const Real perimeter = length + (s.P - length) * (1.0 - s.C / 100.0);
-        return platform::format_number(perimeter.number(), "0.000");
-    });
+    step(25, EFFPERI, [&s] { return clogged_perimeter(s.P, number_in(INLETLENGTH), s.C); });
     step(26, s.Tg, [&s] { return approach_spread(s, s.Qg); });
     step(27, GUTTERSPREAD, [&s] { return s.Tg; });
 }
@@ -98,19 +78,19 @@ void find_depth() {
     step(30, s.Pe, [] { return number_in(EFFPERI); });
     step(31, s.weir_depth, [&s] { return power(s.Q / (unit_constants.weirCoefficient * s.Pe), 0.6667); });
     step(32, s.orifice_depth,
-         [&s] { return square(s.Q / (0.67 * s.Ae)) / (2.0 * Real(unit_constants.gravity)); });
+         [&s] { return square(s.Q / (orifice_coefficient * s.Ae)) / (2.0 * Real(unit_constants.gravity)); });
     if (holds(33, [&s] { return s.weir_depth > s.orifice_depth; })) {
         step(34, s.d, [&s] { return s.weir_depth; });
-        step(35, INLETPERF, [] { return std::string_view("Weir Flow"); });
+        step(35, INLETPERF, [] { return words::weir_flow; });
     } else {
         step(36, s.d, [&s] { return s.orifice_depth; });
-        step(37, INLETPERF, [] { return std::string_view("Orifice Flow"); });
+        step(37, INLETPERF, [] { return words::orifice_flow; });
     }
 }
 
 void find_spread_at_inlet() {
     auto& s = sheet;
-    // Only behind the gutter spread, where the combination widens the gutter before it: both are meant.
+    // Only behind the gutter spread, where the combination widens the gutter before it, deliberately.
     if (holds(38, [&s] { return s.W < s.Wg; })) {
         step(39, s.W, [&s] { return s.Wg; });
     }
@@ -153,7 +133,7 @@ void compute_results() {
     unit_constants.weirCoefficient = by_units(3.0, 1.66);
     sheet = {};
 
-    read_flows();
+    read_sump_flows(1, sheet);
     read_section();
     find_perimeter_and_gutter_spread();
     if (inputs_are_refused()) {

@@ -2,21 +2,20 @@
 
 #include "engine/hydraulics/approach_spread.h"
 #include "engine/hydraulics/inlet_repairs.h"
+#include "engine/hydraulics/sump_inlets.h"
 #include "engine/results.h"
 #include "engine/step.h"
 #include "engine/unit_constants.h"
+#include "engine/words.h"
 
 namespace gullymark::engine::SI_SU_RESULTS {
 namespace {
 
 using enum Column;
 
-struct Sheet {
-    Quantity Q{"Q", Unit::discharge, "flow that the inlet must take"};
-    Quantity Q1{"Q1", Unit::discharge, "flow of the left side"};
-    Quantity Q2{"Q2", Unit::discharge, "flow of the right side"};
-    Quantity Qg{"Qg", Unit::discharge, "flow of the heavier side"};
-    Quantity w{"w", Unit::other, "width of the slot, read in in or mm, used in ft or m"};
+struct Sheet : SumpFlows {
+    Quantity wt{"wt", Unit::depth, "width of the slot as typed"};
+    Quantity w{"w", Unit::length, "width of the slot"};
     Quantity W{"W", Unit::length, "gutter width"};
     Quantity Sx{"Sx", Unit::slope, "pavement cross slope"};
     Quantity Sw{"Sw", Unit::slope, "gutter cross slope"};
@@ -37,6 +36,8 @@ struct Sheet {
 
 Sheet sheet;
 
+constexpr double slot_orifice_coefficient = 0.8;
+
 /// A slot is a weir below the one depth and an orifice above the other, in ft and m; FHWA HEC-22.
 double slotWeirDepth() {
     return by_units(0.2, 0.06);
@@ -47,23 +48,17 @@ double slotOrificeDepth() {
 
 void read_inputs() {
     auto& s = sheet;
-    step(1, s.Q, [] { return number_in(TOTAL_DISCHARGE); });
-    step(2, s.Q1, [] { return number_in(CARRYOVER1) + number_in(DISCHARGE1); });
-    step(3, s.Q2, [] { return number_in(CARRYOVER2) + number_in(DISCHARGE2); });
-    step(4, s.Qg, [&s] { return s.Q1; });
-    if (holds(5, [&s] { return s.Q1 < s.Q2; })) {
-        step(6, s.Qg, [&s] { return s.Q2; });
-    }
-    step(7, s.w, [] { return number_in(SLOTWIDTH); });
+    read_sump_flows(1, s);
+    step(7, s.wt, [] { return number_in(SLOTWIDTH); });
     step(8, s.W, [] { return number_in(GUTWIDTH); });
     step(9, s.Sx, [] { return number_in(PAVXSLOPE); });
     step(10, s.Sw, [] { return number_in(GUTXSLOPE); });
     step(11, s.Wa, [] { return number_in(LOCDEPWIDTH); });
-    // A fixed slope in both unit systems, where a curb opening copies one of the record: both are meant.
-    fill_blank({12, 13}, INLETXSLOPE, "0.1");
-    raise_inlet_slope({14, 15}, [&s] { return s.Sx; });
+    // A fixed slope in both unit systems, where a curb opening copies one of the record; the difference is deliberate.
+    fill_blank(12, INLETXSLOPE, usual_inlet_slope);
+    raise_inlet_slope(14, [&s] { return s.Sx; });
     step(16, s.SdashW, [] { return number_in(INLETXSLOPE); });
-    fill_blank({17, 18}, GRATEPERCLOG, "0");
+    fill_blank(17, GRATEPERCLOG, "0");
     step(19, s.a, [&s] { return (s.SdashW - s.Sw) * s.W; });
     step(20, s.S, [] { return number_in(LONGSLOPE); });
     step(21, s.n, [] { return number_in(MANNINGS); });
@@ -84,25 +79,26 @@ void find_gutter_spread() {
 
 void find_depths() {
     auto& s = sheet;
-    step(28, s.w, [&s] { return s.w / unit_constants.depthFactor; });
+    step(28, s.w, [&s] { return s.wt / unit_constants.depthFactor; });
     step(29, s.L, [] { return number_in(INLETLENGTH) * (1.0 - number_in(GRATEPERCLOG) / 100.0); });
     step(30, s.weir_depth, [&s] { return power(s.Q / (unit_constants.weirCoefficient * s.L), 0.667); });
-    step(31, s.orifice_depth,
-         [&s] { return square(s.Q / (0.8 * s.L * s.w)) / (2.0 * Real(unit_constants.gravity)); });
+    step(31, s.orifice_depth, [&s] {
+        return square(s.Q / (slot_orifice_coefficient * s.L * s.w)) / (2.0 * Real(unit_constants.gravity));
+    });
 }
 
 void choose_regime() {
     auto& s = sheet;
     if (holds(32, [&s] { return s.weir_depth < slotWeirDepth(); })) {
         step(33, s.D, [&s] { return s.weir_depth; });
-        step(34, INLETPERF, [] { return std::string_view("Weir Flow"); });
+        step(34, INLETPERF, [] { return words::weir_flow; });
     } else if (holds(35, [&s] { return s.weir_depth > slotOrificeDepth(); })) {
         step(36, s.D, [&s] { return s.orifice_depth; });
-        step(37, INLETPERF, [] { return std::string_view("Orifice Flow"); });
+        step(37, INLETPERF, [] { return words::orifice_flow; });
     } else {
         step(38, s.D, [&s] { return (s.weir_depth + s.orifice_depth) / 2.0; });
         // With a small f, where the curb opening writes "Transition Flow".
-        step(39, INLETPERF, [] { return std::string_view("Transition flow"); });
+        step(39, INLETPERF, [] { return words::slot_transition_flow; });
     }
 }
 

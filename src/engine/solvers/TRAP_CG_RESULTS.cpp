@@ -36,6 +36,13 @@ struct Sheet {
 
 Sheet sheet;
 
+// ft in either system of units; it goes nowhere.
+constexpr double X_grate_width = 4.0;
+
+// The slope for side flow of a grate that leaves bottom beside it, and of one that an upright side adjoins.
+constexpr double side_slope_on_bottom = 0.01;
+constexpr double side_slope_upright = 0.99;
+
 void find_depth() {
     auto& s = sheet;
     step(1, s.Q, [] { return number_in(TOTAL_DISCHARGE); });
@@ -58,7 +65,7 @@ bool has_depth_alone() {
         return subtype == "X - DI Grate" || subtype == "X - Welded Steel";
     });
     if (alone) {
-        step(11, sheet.Wg, [] { return Real(4.0); });
+        step(11, sheet.Wg, [] { return Real(X_grate_width); });
     }
     return alone;
 }
@@ -82,42 +89,42 @@ void find_flow_section() {
 
 void find_side_slope() {
     auto& s = sheet;
-    if (holds(23, [&s] { return s.Wg < s.B; })) {
-        step(24, s.Ss, [] { return Real(0.01); });
-    } else if (holds(25, [&s] { return s.zl != 0.0 && s.zr != 0.0; })) {
-        step(26, s.Ss, [&s] { return 1.0 / ((s.zl + s.zr) / 2.0); });
+    if (holds(36, [&s] { return s.Wg < s.B; })) {
+        step(37, s.Ss, [] { return Real(side_slope_on_bottom); });
+    } else if (holds(38, [&s] { return s.zl != 0.0 && s.zr != 0.0; })) {
+        step(39, s.Ss, [&s] { return 1.0 / ((s.zl + s.zr) / 2.0); });
     } else {
-        step(27, s.Ss, [] { return Real(0.99); });
+        step(40, s.Ss, [] { return Real(side_slope_upright); });
     }
 }
 
 void find_efficiency() {
     auto& s = sheet;
     convert_grate_length(22, s.frontal);
-    find_frontal_efficiency(s.frontal, s.V);
+    find_frontal_efficiency(23, s.frontal, s.V);
     find_side_slope();
-    step(28, FFLOWEFF, [&s] { return s.frontal.Rf; });
-    step(29, s.Rs, [&s] {
+    step(41, FFLOWEFF, [&s] { return s.frontal.Rf; });
+    step(42, s.Rs, [&s] {
         const Real length = number_in(INLETLENGTH);
         return 1.0 / (unit_constants.sideFlowConstant * power(s.V, 1.8) / (power(length, 2.3) * s.Ss) + 1.0);
     });
-    step(30, SFLOWEFF, [&s] { return s.Rs; });
-    step(31, s.E, [&s] { return s.Eo * s.frontal.Rf + (1.0 - s.Eo) * s.Rs; });
-    if (holds(32, [&s] { return s.E > 1.0; })) {
-        step(33, s.E, [] { return Real(1.0); });
+    step(43, SFLOWEFF, [&s] { return s.Rs; });
+    step(44, s.E, [&s] { return s.Eo * s.frontal.Rf + (1.0 - s.Eo) * s.Rs; });
+    if (holds(45, [&s] { return s.E > 1.0; })) {
+        step(46, s.E, [] { return Real(1.0); });
     }
-    step(34, EFFICIENCY, [&s] { return s.E; });
+    step(47, EFFICIENCY, [&s] { return s.E; });
 }
 
 void find_interception() {
     auto& s = sheet;
-    step(35, s.Qi, [&s] { return s.E * s.Q; });
-    step(36, QINT, [&s] { return s.Qi; });
-    step(37, s.Qc, [&s] { return s.Q - s.Qi; });
-    step(38, QCARRY, [&s] { return s.Qc; });
-    step(39, s.Pr, [&s] { return 2.0 * (number_in(INLETLENGTH) + s.Wg); });
+    step(48, s.Qi, [&s] { return s.E * s.Q; });
+    step(49, QINT, [&s] { return s.Qi; });
+    step(50, s.Qc, [&s] { return s.Q - s.Qi; });
+    step(51, QCARRY, [&s] { return s.Qc; });
+    step(52, s.Pr, [&s] { return 2.0 * (number_in(INLETLENGTH) + s.Wg); });
     // In ft or m: the one depth that is not turned into in or mm.
-    step(40, DSBH, [&s] { return power(s.Q / (unit_constants.weirCoefficient * s.Pr), 0.67); });
+    step(53, DSBH, [&s] { return power(s.Q / (unit_constants.weirCoefficient * s.Pr), 0.67); });
 }
 
 }  // namespace

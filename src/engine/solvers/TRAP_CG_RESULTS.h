@@ -23,7 +23,8 @@
 /// Writes  CURBDEPTH FLOWRATIO FLOWAREA FLOWVEL WETPERI HYDRAD FFLOWEFF SFLOWEFF EFFICIENCY QINT QCARRY DSBH;
 ///         for the standard inlets "X - DI Grate" and "X - Welded Steel" CURBDEPTH alone
 ///
-/// Runs under the step rule of step.h and shows no message of its own. Steps from 101 stand in grate_types.h.
+/// Runs under the step rule of step.h and shows no message of its own. The steps of the frontal
+/// efficiency stand in grate_types.h.
 ///
 /// Source: FHWA, Urban Drainage Design Manual (HEC-22), chapters 4 and 5, grates in roadside ditches;
 /// coefficients and limits are this system's own.

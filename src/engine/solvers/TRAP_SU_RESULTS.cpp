@@ -4,9 +4,11 @@
 #include <array>
 #include <limits>
 
+#include "engine/hydraulics/sump_march.h"
 #include "engine/results.h"
 #include "engine/step.h"
 #include "engine/unit_constants.h"
+#include "engine/words.h"
 #include "platform/outside.h"
 
 namespace gullymark::engine::TRAP_SU_RESULTS {
@@ -86,14 +88,15 @@ void use_dimensions() {
     strict_step(8, s.Wg, [] { return number_in(GRATEWIDTH); });
     strict_step(9, s.weir_depth,
                 [&s] { return power(s.Q / (unit_constants.weirCoefficient * s.P), 0.6667); });
-    strict_step(10, s.orifice_depth,
-                [&s] { return square(s.Q / (s.A * 0.67)) / (2.0 * Real(unit_constants.gravity)); });
+    strict_step(10, s.orifice_depth, [&s] {
+        return square(s.Q / (s.A * orifice_coefficient)) / (2.0 * Real(unit_constants.gravity));
+    });
     if (strict_holds(11, [&s] { return s.weir_depth > s.orifice_depth; })) {
         strict_step(12, s.d, [&s] { return s.weir_depth; });
-        strict_step(13, INLETPERF, [] { return std::string_view("Weir Flow"); });
+        strict_step(13, INLETPERF, [] { return words::weir_flow; });
     } else {
         strict_step(14, s.d, [&s] { return s.orifice_depth; });
-        strict_step(15, INLETPERF, [] { return std::string_view("Orifice Flow"); });
+        strict_step(15, INLETPERF, [] { return words::orifice_flow; });
     }
     strict_step(16, DEPTHATINLET, [&s] { return unit_constants.depthFactor * s.d; });
     strict_step(17, RAREA, [&s] { return s.A; });

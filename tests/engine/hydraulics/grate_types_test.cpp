@@ -13,7 +13,7 @@ class Frontal : public EngineTest {
         fill({{Column::GRATETYPE, grate}, {Column::INLETLENGTH, length}});
         FrontalFlow frontal;
         convert_grate_length(1, frontal);
-        find_frontal_efficiency(frontal, V);
+        find_frontal_efficiency(2, frontal, V);
         return frontal.Rf.value.number();
     }
 };
