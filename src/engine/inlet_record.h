@@ -25,6 +25,7 @@ inline constexpr auto all_columns = [] {
     return columns;
 }();
 
+/// The name of a column as the table has it: "QINT".
 std::string_view column_name(Column column);
 
 /// The column of that name, case counting; nothing for a word that names none.
@@ -35,7 +36,10 @@ class InletRecord {
   public:
     /// The text of a column, empty for a null.
     [[nodiscard]] const std::string& text(Column column) const;
+    /// True for a column that nothing has filled, other than one with an empty text.
     [[nodiscard]] bool is_null(Column column) const;
+
+    /// The value of a column as the store holds it.
     [[nodiscard]] const std::optional<std::string>& value(Column column) const {
         return values_[index(column)];
     }
@@ -49,6 +53,7 @@ class InletRecord {
 
     /// From here on the next write counts as the first change again.
     void begin_new_changes() { changed_ = false; }
+    /// True from the first write on.
     [[nodiscard]] bool changed() const { return changed_; }
 
     /// Told once at the first change of the row.

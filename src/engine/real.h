@@ -40,6 +40,7 @@ class Real {
     double number_ = 0.0;
 };
 
+// The four operations and the comparisons of doubles. A result too large faults, and so does a division by 0.
 constexpr Real operator+(Real a, Real b) {
     return {a.number() + b.number()};
 }
@@ -65,6 +66,8 @@ constexpr std::partial_ordering operator<=>(Real a, Real b) {
     return a.number() <=> b.number();
 }
 
+/// `base` to the power `exponent`. Faults on a negative base under a non-whole exponent, on 0 under a negative one, and on
+/// a result too large.
 inline Real power(Real base, Real exponent) {
     const double b = base.number();
     const double e = exponent.number();
@@ -74,10 +77,12 @@ inline Real power(Real base, Real exponent) {
     return {std::pow(b, e)};
 }
 
+/// Faults on a result too large.
 inline Real square(Real number) {
     return number * number;
 }
 
+/// Faults on a negative number.
 inline Real square_root(Real number) {
     if (number < 0.0) {
         throw Fault::no_real_power;
@@ -85,6 +90,7 @@ inline Real square_root(Real number) {
     return {std::sqrt(number.number())};
 }
 
+/// Faults on a number of 0 or below.
 inline Real natural_logarithm(Real number) {
     if (number <= 0.0) {
         throw Fault::no_real_power;
@@ -92,10 +98,12 @@ inline Real natural_logarithm(Real number) {
     return {std::log(number.number())};
 }
 
+/// The sine of an angle in radians.
 inline Real sine(Real radians) {
     return {std::sin(radians.number())};
 }
 
+/// The number without its sign.
 inline Real absolute(Real number) {
     return {std::fabs(number.number())};
 }

@@ -46,6 +46,7 @@ struct TraceLine {
 /// "12  T = 7.41 ft  spread of the gutter flow", "31  V abandoned: division by zero  velocity".
 std::string describe(const TraceLine& line);
 
+/// A fault in a few words: "division by zero"; empty for none.
 std::string_view fault_text(Fault fault);
 
 /// Who looks on while steps run. Nobody, most of the time.
@@ -63,14 +64,17 @@ Real number_in(std::string_view text);
 Real number_in(Column column);
 
 namespace detail {
+/// What a step did, for the trace that somebody takes.
 void note(int number, const Quantity& target, Fault fault);
 void note(int number, Column target, Fault fault);
 void note(int number, bool entered, Fault fault);
+/// Faults when a test asked for it at this step.
 inline void trip(int number) {
     if (onlooker.tripped_step == number) {
         throw Fault::tripped;
     }
 }
+/// Gives a target its new value; a column takes a number as its text of up to 15 digits.
 inline void write(Quantity& target, Real number) {
     target.value = number;
 }
@@ -125,7 +129,7 @@ bool holds(int number, Condition&& condition) {
     return entered;
 }
 
-/// A step whose fault goes on to its caller, for a solver that ends at the first one.
+/// A step whose fault goes on to its caller, its target unchanged: for a solver that ends at the first one.
 template <typename Target, typename Formula>
 void strict_step(int number, Target&& target, Formula&& formula) {
     if (const Fault fault = detail::run(number, target, std::forward<Formula>(formula));
@@ -134,7 +138,7 @@ void strict_step(int number, Target&& target, Formula&& formula) {
     }
 }
 
-/// A condition whose fault goes on to its caller.
+/// A condition whose fault goes on to its caller, for the same solver.
 template <typename Condition>
 bool strict_holds(int number, Condition&& condition) {
     bool entered = false;

@@ -24,22 +24,24 @@ extern UnitConstants unit_constants;
 /// The text of the project's units. "ENGLISH" is the one name; any other text is metric.
 extern std::string UnitSystem;
 
+/// True when the project's units are ENGLISH: feet, inches and cubic feet per second.
 [[nodiscard]] bool is_english();
 
-/// The value for the unit system in force.
+/// Of two values that of the unit system in force.
 template <typename Value>
 [[nodiscard]] Value by_units(Value english, Value metric) {
     return is_english() ? english : metric;
 }
 
-// One procedure for each value, since every solver sets those that it uses and no others.
-void set_gutterFlowConstant();
-void set_sideFlowConstant();
-void set_curbLengthConstant();
-void set_manningConstant();
-void set_depthFactor();
-void set_gravity();
-void set_curbLengthLimit();
+// One procedure for each value, since every solver sets those that it uses and no others. Each takes the value of the
+// unit system in force.
+void set_gutterFlowConstant();  // 0.56, 0.376
+void set_sideFlowConstant();    // 0.15, 0.0828
+void set_curbLengthConstant();  // 0.6, 0.817
+void set_manningConstant();     // 1.486, 1.0
+void set_depthFactor();         // 12 in/ft, 1000 mm/m
+void set_gravity();             // 32.174 ft/s2, 9.81 m/s2
+void set_curbLengthLimit();     // 12 ft, 4 m
 
 /// All of the above but `gravity`, with `numberFormat` and the default weir coefficient: for a form that is prepared.
 void set_unit_defaults();

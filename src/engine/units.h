@@ -27,6 +27,7 @@ enum class Unit : unsigned char {
 /// The unit's caption for the unit system in force: "ft" or "m"; empty for a pure number or a text.
 std::string_view unit_text(Unit unit);
 
+/// What the number in a column is measured in.
 Unit column_unit(Column column);
 
 /// What a column means, in a few words for a reader.

@@ -4,7 +4,7 @@
 #include "engine/step.h"
 
 /// What a grate and a combination of curb opening and grate on a continuous grade work out alike. Each procedure takes
-/// the number that its first step has in the sheet.
+/// the number that its first step has in the sheet. The formulas stand in GI_CG_RESULTS.h.
 namespace gullymark::engine {
 
 struct GrateOnGrade {
@@ -37,14 +37,22 @@ struct GrateOnGrade {
     Quantity E{"E", Unit::ratio, "efficiency of the grate"};
 };
 
+/// Sets the constants of the unit system that both sheets use.
 void set_constants_of_grate_on_grade();
 
-void read_inputs(int first, GrateOnGrade& s);               // 19 steps
-void find_approach(int first, GrateOnGrade& s);             // 20 steps: spread, flow ratio, slopes
-void find_interception_length(int first, GrateOnGrade& s);  // 3 steps
-void find_depth_and_velocity(int first, GrateOnGrade& s);   // 9 steps
+/// Reads the columns into Q to limit; repairs GRATEPERCLOG and INLETXSLOPE. 19 steps.
+void read_inputs(int first, GrateOnGrade& s);
 
-/// The grate's efficiency at the velocity V over it, in 21 steps.
+/// The spread T, the flow ratio Eo, the slopes Spw and Se; writes OPENSPREAD, WT, FLOWRATIO and DEPXSLOPE. 20 steps.
+void find_approach(int first, GrateOnGrade& s);
+
+/// The length for total interception LT; writes COMPXSLOPE and INTLEN. 3 steps.
+void find_interception_length(int first, GrateOnGrade& s);
+
+/// The depth y at the curb, the area A and the velocity V of the gutter flow; writes CURBDEPTH and FLOWVEL. 9 steps.
+void find_depth_and_velocity(int first, GrateOnGrade& s);
+
+/// The grate's efficiency E at the velocity V (ft/s, m/s) over it; writes EFFICIENCY. 21 steps.
 void find_grate_efficiency(int first, GrateOnGrade& s, Real V);
 
 }  // namespace gullymark::engine

@@ -24,7 +24,7 @@ void raise_inlet_slope(int first, Slope pavement_slope) {
     }
 }
 
-/// A number as its text in `format` reads.
+/// A number as its text in `format` ("0.0000") reads: halves away from zero on its 15 digits.
 Real rounded(Real number, std::string_view format);
 
 }  // namespace gullymark::engine

@@ -28,6 +28,7 @@
 /// limits are this system's own.
 namespace gullymark::engine::CISI_CG_RESULTS {
 
+/// Solves the open inlet, as told above.
 void compute_results();
 
 }  // namespace gullymark::engine::CISI_CG_RESULTS

@@ -33,6 +33,7 @@
 /// coefficients and limits are this system's own.
 namespace gullymark::engine::CI_SU_RESULTS {
 
+/// Solves the open inlet, as told above.
 void compute_results();
 
 }  // namespace gullymark::engine::CI_SU_RESULTS

@@ -30,6 +30,7 @@
 /// and limits are this system's own.
 namespace gullymark::engine::COMBO_CG_RESULTS {
 
+/// Solves the open inlet, as told above.
 void compute_results();
 
 }  // namespace gullymark::engine::COMBO_CG_RESULTS

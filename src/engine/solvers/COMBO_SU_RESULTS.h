@@ -34,6 +34,7 @@
 /// coefficients and limits are this system's own.
 namespace gullymark::engine::COMBO_SU_RESULTS {
 
+/// Solves the open inlet, as told above.
 void compute_results();
 
 }  // namespace gullymark::engine::COMBO_SU_RESULTS

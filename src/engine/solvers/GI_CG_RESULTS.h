@@ -35,6 +35,7 @@
 /// limits are this system's own.
 namespace gullymark::engine::GI_CG_RESULTS {
 
+/// Solves the open inlet, as told above.
 void compute_results();
 
 }  // namespace gullymark::engine::GI_CG_RESULTS

@@ -29,6 +29,7 @@
 /// coefficients and limits are this system's own.
 namespace gullymark::engine::SI_SU_RESULTS {
 
+/// Solves the open inlet, as told above.
 void compute_results();
 
 }  // namespace gullymark::engine::SI_SU_RESULTS

@@ -30,6 +30,7 @@
 /// coefficients and limits are this system's own.
 namespace gullymark::engine::TRAP_CG_RESULTS {
 
+/// Solves the open inlet, as told above.
 void compute_results();
 
 }  // namespace gullymark::engine::TRAP_CG_RESULTS

@@ -24,6 +24,7 @@
 /// coefficients and ratings are this system's own.
 namespace gullymark::engine::TRAP_SU_RESULTS {
 
+/// Solves the open inlet, as told above.
 void compute_results();
 
 }  // namespace gullymark::engine::TRAP_SU_RESULTS
