@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <string>
 
 #include "editor/inlet_form.h"
@@ -25,6 +26,14 @@ bool takes_point(std::string_view whole, std::string_view selected) {
     return holds_point(selected) || !holds_point(whole);
 }
 
+/// Line ends too: a spreadsheet copies a cell with one.
+std::string_view without_blanks_around(std::string_view text) {
+    constexpr std::string_view blanks = " \t\r\n\v\f";
+    const std::size_t first = text.find_first_not_of(blanks);
+    return first == std::string_view::npos ? ""
+                                           : text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
 }  // namespace
 
 Windows windows;
@@ -49,17 +58,15 @@ std::string filter_text(FieldId field, std::string_view incoming, std::string_vi
     if (!filters_keys(field)) {
         return std::string(incoming);
     }
-    bool point_left = takes_point(whole, selected);
-    std::string passed;
-    for (const char byte : incoming) {
-        if (byte >= '0' && byte <= '9') {
-            passed += byte;
-        } else if (byte == '.' && point_left) {
-            passed += byte;
-            point_left = false;
-        }
-    }
-    return passed;
+    const std::string_view number = without_blanks_around(incoming);
+    const bool typed_so = std::ranges::all_of(
+        number, [](char byte) { return is_digit(static_cast<unsigned char>(byte)) || byte == '.'; });
+    const auto points = std::ranges::count(number, '.');
+    const std::size_t limit = screen_field(field).limit;
+    const std::size_t length = whole.size() - selected.size() + number.size();
+    const bool fits = limit == 0 || length <= limit;
+    const bool counts = typed_so && fits && (points == 0 || (points == 1 && takes_point(whole, selected)));
+    return counts ? std::string(number) : "";
 }
 
 }  // namespace gullymark::editor

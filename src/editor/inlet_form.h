@@ -41,7 +41,9 @@ void enter(FieldId field);
 /// The key Enter moves the focus on by one field and counts as none in a filtered field.
 char32_t filter_key(FieldId field, char32_t key, std::string_view whole, std::string_view selected);
 
-/// What may come in at once (paste, drop, input method) in place of `selected`: the keys of `incoming` that count.
+/// What may come in at once (paste, drop, input method) in place of `selected`. A field that filters its keys takes a
+/// text whole, without the blanks and line ends around it, when its keys could all have been typed there and its limit
+/// holds; else nothing of it: a part of a number is another number.
 std::string filter_text(FieldId field, std::string_view incoming, std::string_view whole,
                         std::string_view selected);
 

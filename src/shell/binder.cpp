@@ -97,17 +97,15 @@ void Binder::watch(Bound& bound, QWidget& widget) {
     widget.installEventFilter(this);
     watch_list(item, widget);
     if (QLineEdit* line = line_of(widget)) {
+        line->installEventFilter(this);
         connect(line, &QLineEdit::textEdited, this, [&item](const QString& text) {
             if (item.edited) {
                 handle([&] { item.edited(text.toStdString()); });
             }
         });
-        const int limit = item.limit == 0 ? line->maxLength() : static_cast<int>(item.limit);
-        if (item.filter) {
-            filter_incoming_text(*line, item.filter, limit);
-        } else {
-            line->setMaxLength(limit);
-        }
+        const auto most = static_cast<std::size_t>(line->maxLength());
+        filter_incoming_text(*line,
+                             item.filter ? item.filter.text : one_line(item.limit == 0 ? most : item.limit));
     }
     if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
         connect(button, &QAbstractButton::clicked, this, [&item] { handle(item.clicked); });

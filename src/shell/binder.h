@@ -82,6 +82,7 @@ class Binder : public QObject {
 
     bool filter_press(const QMouseEvent& press);
     bool filter_key(const QKeyEvent& press);
+    bool takes_drop(QWidget& line);
     /// The page that a key turns to: the letter marked on its tab with Alt, or Ctrl and a page key; -1 for none.
     [[nodiscard]] int page_of(const QKeyEvent& press) const;
     void list_opened(const QWidget& popup);

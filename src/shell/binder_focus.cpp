@@ -93,6 +93,9 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
         list_opened(*widget);
         return false;
     }
+    if (event->type() == QEvent::Drop) {
+        return !takes_drop(*widget);
+    }
     const Bound* bound = bound_to(widget);
     const QLineEdit* line = line_of(*widget);
     return event->type() == QEvent::KeyPress && bound != nullptr && bound->item.filter && line != nullptr &&
@@ -155,6 +158,20 @@ bool Binder::filter_press(const QMouseEvent& press) {
     target->setFocus(Qt::MouseFocusReason);
     QMetaObject::invokeMethod(
         this, [this, click] { make(click, window_); }, Qt::QueuedConnection);
+    return true;
+}
+
+/// A text dropped into a field is typed there: the user leaves the field before, and goes to this one.
+bool Binder::takes_drop(QWidget& line) {
+    QWidget& field = line.focusProxy() != nullptr ? *line.focusProxy() : line;
+    if (&field == window_.focusWidget()) {
+        return true;
+    }
+    const int rounds = modal_rounds();
+    if (!leave_field() || modal_rounds() != rounds) {
+        return false;
+    }
+    field.setFocus(Qt::MouseFocusReason);
     return true;
 }
 

@@ -1,7 +1,7 @@
 #include "shell/renumber_view.h"
 
 #include "editor/renumber_dialog.h"
-#include "shell/binder.h"
+#include "shell/input_filter.h"
 #include "shell/turn.h"
 #include "ui_renumber_view.h"
 
@@ -11,7 +11,7 @@ using editor::frminletmodify;
 
 RenumberView::RenumberView(QWidget* owner) : QDialog(owner), ui_(new Ui::frminletmodify) {
     ui_->setupUi(this);
-    ui_->newinletnumber->setMaxLength(static_cast<int>(editor::new_number_limit));
+    filter_incoming_text(*ui_->newinletnumber, one_line(editor::new_number_limit));
     connect(ui_->newinletnumber, &QLineEdit::textEdited, this,
             [](const QString& text) { handle([&] { editor::edit_new_number(text.toStdString()); }); });
     connect(ui_->cmdmodaccept, &QPushButton::clicked, this, [] { handle(editor::cmdmodaccept_Click); });

@@ -193,17 +193,34 @@ struct PasteRow {
     std::string_view passed;
 };
 
-TEST(PasteFilter, KeepsWhatTypingWouldKeep) {
+TEST(PasteFilter, TakesANumberThatCouldHaveBeenTypedWholeAndNothingElse) {
     for (const auto& row : std::to_array<PasteRow>({
              {"1.25", "", "", "1.25"},
-             {"-1,234.5 ft\n", "", "", "1234.5"},
-             {"1.2.3", "", "", "1.23"},
-             {".5", "1.0", "", "5"},
+             {" 1.25\t", "", "", "1.25"},
+             {"1.25\r\n", "", "", "1.25"},
              {".5", "1.0", "1.0", ".5"},
+             {"5", "1.0", "", "5"},
+             {"1234567890", "", "", "1234567890"},
+             {"1e5", "", "", ""},
+             {"1E-3", "", "", ""},
+             {"-5", "", "", ""},
+             {"12.5.7 ft", "", "", ""},
+             {"-1,234.5 ft\n", "", "", ""},
+             {"1 2", "", "", ""},
+             {"1\n2\n", "", "", ""},
+             {".5", "1.0", "", ""},
+             {"12345678901", "", "", ""},
+             {"234567890", "12", "", ""},
+             {"234567890", "12", "2", "234567890"},
+             {" ", "", "", ""},
              {"\u0661", "", "", ""},
          })) {
-        EXPECT_EQ(filter_text(txtS, row.incoming, row.whole, row.selected), row.passed);
+        EXPECT_EQ(filter_text(txtS, row.incoming, row.whole, row.selected), row.passed) << row.incoming;
     }
+    EXPECT_EQ(filter_text(allowable_spread, "1234567", "", ""), "") << "six characters at most";
+    EXPECT_EQ(filter_text(cboClog, "9 x 9", "", ""), "");
+    EXPECT_EQ(filter_text(cboClog, " 25\n", "0", "0"), "25");
+    EXPECT_EQ(filter_text(offset, "12345678901234567890", "", ""), "12345678901234567890");
     EXPECT_EQ(filter_text(Station, "STA 1+00", "", ""), "STA 1+00");
 }
 

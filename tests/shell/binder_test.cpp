@@ -4,7 +4,6 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <QClipboard>
 
 #include "shell/desktop.h"
 #include "small_form.h"
@@ -173,113 +172,6 @@ TEST(Binder, TurnsPagesBothWays) {
     show_all();
     EXPECT_EQ(form.tabs->currentIndex(), 0);
     EXPECT_TRUE(form.heard.empty()) << "the logic's own turn is no click of the user";
-}
-
-/// Digits alone, as keys and in texts.
-InputFilter digits_alone() {
-    const auto is_digit = [](char32_t key) { return key >= U'0' && key <= U'9'; };
-    return {.key = [is_digit](char32_t key, std::string_view,
-                              std::string_view) { return is_digit(key) ? key : 0; },
-            .text =
-                [is_digit](std::string_view incoming, std::string_view, std::string_view) {
-                    std::string counts;
-                    for (const char key : incoming) {
-                        if (is_digit(static_cast<char32_t>(key))) {
-                            counts += key;
-                        }
-                    }
-                    return counts;
-                }};
-}
-
-struct FilteredForm : SmallForm {
-    FilteredForm() {
-        auto all = items();
-        all[0].filter = digits_alone();
-        all[1].filter = digits_alone();
-        bind(std::move(all));
-        activate(window);
-    }
-};
-
-TEST(InputFilter, DropsKeysThatDoNotCount) {
-    FilteredForm form;
-    click(*form.number_line);
-    form.number_line->selectAll();
-    type(form.window, "4x-5");
-    EXPECT_EQ(form.number.text, "45");
-}
-
-TEST(InputFilter, DropsThemInAListToo) {
-    FilteredForm form;
-    click(*form.kind_list->lineEdit());
-    form.kind_list->lineEdit()->selectAll();
-    type(form.window, "2x5");
-    EXPECT_EQ(form.kind.text, "25");
-}
-
-TEST(InputFilter, LetsInWhatCountsOfAPastedTextAndKeepsUndo) {
-    FilteredForm form;
-    click(*form.number_line);
-    press(form.window, Qt::Key_End);
-    QGuiApplication::clipboard()->setText("-2a3");
-    press(form.window, Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(form.number.text, "123");
-    press(form.window, Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(form.number.text, "1");
-}
-
-TEST(InputFilter, LetsAPastedTextTakeThePlaceOfTheSelection) {
-    FilteredForm form;
-    click(*form.number_line);
-    form.number_line->selectAll();
-    QGuiApplication::clipboard()->setText("x9");
-    press(form.window, Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(form.number.text, "9");
-}
-
-TEST(InputFilter, CountsTheLimitAfterAPastedTextIsFiltered) {
-    FilteredForm form;
-    click(*form.number_line);
-    form.number_line->selectAll();
-    QGuiApplication::clipboard()->setText("1,2,3,4,5,6,7,8,9,0");
-    press(form.window, Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(form.number.text, "12345678");
-    type(form.window, "9");
-    EXPECT_EQ(form.number.text, "12345678");
-}
-
-TEST(InputFilter, KeepsTheTextWhenNothingOfAPasteCounts) {
-    FilteredForm form;
-    click(*form.number_line);
-    form.number_line->selectAll();
-    QGuiApplication::clipboard()->setText("xyz");
-    press(form.window, Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(form.number.text, "1");
-    EXPECT_EQ(form.number_line->text(), "1");
-}
-
-TEST(InputFilter, FiltersTheInputMethod) {
-    FilteredForm form;
-    click(*form.number_line);
-    press(form.window, Qt::Key_End);
-    QInputMethodEvent event;
-    event.setCommitString("é7");
-    QCoreApplication::sendEvent(form.number_line, &event);
-    settle();
-    EXPECT_EQ(form.number.text, "17");
-}
-
-TEST(InputFilter, LeavesTheProgramsOwnTextAlone) {
-    FilteredForm form;
-    form.number.text = "-5.000";
-    show_all();
-    EXPECT_EQ(form.number_line->text(), "-5.000");
-    click(*form.number_line);
-    press(form.window, Qt::Key_End);
-    QGuiApplication::clipboard()->setText("-1");
-    press(form.window, Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(form.number.text, "-5.0001");
 }
 
 }  // namespace

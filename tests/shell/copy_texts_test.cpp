@@ -30,8 +30,7 @@ QMenu* menu_over(QWidget& window, QWidget& widget) {
 void choose_copy(QMenu* menu) {
     ASSERT_NE(menu, nullptr);
     ASSERT_EQ(menu->objectName(), "fixed_copy_menu");
-    QTest::keyClick(menu, Qt::Key_C);
-    settle();
+    press(*menu, Qt::Key_C);
 }
 
 TEST(CopyTexts, TheMenuOfADisabledFieldOrItsLabelCopiesItsText) {

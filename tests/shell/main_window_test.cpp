@@ -165,7 +165,7 @@ TEST(Splash, StandsInTheMiddleOfTheScreenAndGoesByKeyOrClick) {
         const QPoint off = splash.frameGeometry().center() - splash.screen()->availableGeometry().center();
         EXPECT_LE(off.manhattanLength(), 2);
         if (by_key) {
-            QTest::keyClick(&splash, Qt::Key_Space);
+            testing_support::press(splash, Qt::Key_Space);
         } else {
             testing_support::click(*splash.findChild<QFrame*>("fixed_frame"));
         }

@@ -124,8 +124,8 @@ TEST(Reports, WhileTheOfficeIsWaitedForTheWindowPaintsUnderTheWaitPointerAndTake
         painted.times = 0;
         workspace().menuBar()->update();
         pointer = QApplication::overrideCursor()->shape();
-        QTest::keyClick(workspace().windowHandle(), Qt::Key_N, Qt::ControlModifier);
-        QTest::keyClick(workspace().windowHandle(), Qt::Key_PageDown, Qt::ControlModifier);
+        strike_key(*workspace().windowHandle(), Qt::Key_N, Qt::ControlModifier);
+        strike_key(*workspace().windowHandle(), Qt::Key_PageDown, Qt::ControlModifier);
         QTest::mouseClick(workspace().menuBar(), Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
         workspace().windowHandle()->close();
     });

@@ -20,6 +20,7 @@
 #include <QTimer>
 #include <QWindow>
 
+#include "keys.h"
 #include "platform/outside.h"
 #include "support/outside_double.h"
 
@@ -46,13 +47,13 @@ inline void click(QWidget& widget, QPoint at = {}) {
 }
 
 inline void press(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QTest::keyClick(window.window()->windowHandle(), key, modifiers);
+    strike_key(*window.window()->windowHandle(), key, modifiers);
     settle();
 }
 
 inline void type(QWidget& window, const std::string& text) {
     for (const char character : text) {
-        QTest::keyClick(window.window()->windowHandle(), character);
+        strike_letter(*window.window()->windowHandle(), character);
     }
     settle();
 }

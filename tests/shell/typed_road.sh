@@ -8,22 +8,10 @@ set -uo pipefail
 
 . "$(dirname "$0")/typing.sh"
 
-create_project() {
-  press alt+f c
-  await "Enter New Project Database File Name"
-  type_text "$work/road"
-  press Return
-  await "Tarnel Brook" # New Project Database has been created.  Please Add Project Details
-  press Return
-  await Project
+type_details() {
   type_text "P-1"
   press Tab
   type_text "Oak Street"
-  press ctrl+s
-  await GullymarkAL # Project Details are Saved!
-  press Return
-  sleep 1
-  await GullymarkAL # the workspace
 }
 
 add_inlet() {

@@ -60,6 +60,23 @@ start_program() {
   await Gullymark
 }
 
+# A new project $work/road.gmk, from the main window to the workspace: type_details fills its details.
+create_project() {
+  press alt+f c
+  await "Enter New Project Database File Name"
+  type_text "$work/road"
+  press Return
+  await "Tarnel Brook" # New Project Database has been created.  Please Add Project Details
+  press Return
+  await Project
+  type_details
+  press ctrl+s
+  await GullymarkAL # Project Details are Saved!
+  press Return
+  sleep 1
+  await GullymarkAL # the workspace
+}
+
 # The project $work/road.gmk, from the main window to the workspace.
 open_project() {
   press ctrl+o

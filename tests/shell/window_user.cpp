@@ -119,7 +119,7 @@ bool choose(QWidget& window, const std::string& caption) {
             click_at(menus, menus.actionGeometry(menu->menuAction()).center());
             click_at(*menu, menu->actionGeometry(&action).center());
             if (menu->isVisible()) {
-                QTest::keyClick(menu, Qt::Key_Escape);  // a command that is off leaves it open
+                testing_support::press(*menu, Qt::Key_Escape);  // a command that is off leaves it open
             }
         }
     });
@@ -154,7 +154,7 @@ bool open_list(QWidget& window, const std::string& field) {
     QComboBox& list = list_called(window, field);
     const bool opened = drop_down(window, list);
     if (opened) {
-        QTest::keyClick(list.view(), Qt::Key_Escape);
+        testing_support::press(*list.view(), Qt::Key_Escape);
         settle();
     }
     return opened;
@@ -167,7 +167,7 @@ bool pick_in(QWidget& window, const std::string& field, const std::string& entry
     }
     const int row = list.findText(QString::fromStdString(entry), Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (row < 0) {
-        QTest::keyClick(list.view(), Qt::Key_Escape);
+        testing_support::press(*list.view(), Qt::Key_Escape);
         throw std::runtime_error(field + " does not offer " + entry);
     }
     QAbstractItemView& view = *list.view();
