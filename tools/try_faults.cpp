@@ -3,8 +3,15 @@
 //   try_faults kills TIMES      kill -9 at random moments of each of create, save, copy, delete, renumber, details, upgrade
 //   try_faults full_disk STEPS  each of them, and the copy of a report's template, with less and less room on the disk:
 //                               a limit on the size of files, and as root a small disk of its own as well
-//   try_faults calls            each call by which SQLite changes a file fails in its turn, and all after it: the disk is
-//                               full, is broken, or the program is killed in the middle of the call
+//   try_faults calls            each call that changes a file in any of these deeds fails in its turn, and all after it:
+//                               the disk is full, is broken, or the program is killed in the middle of the call
+//   try_faults fsync TIMES [SEED]   a call of that kind fails once or more at random in one of these deeds, done once or
+//   try_faults read TIMES [SEED]    tried again: the synchronisation of project, journal, folder or copy, a read, the
+//   try_faults rename TIMES [SEED]  renaming of a copy, the removal of a journal
+//   try_faults unlink TIMES [SEED]
+//   try_faults locks TIMES [SEED]   another program holds a lock of 0.1 to 2 s from a random statement of a command on
+//   try_faults power TIMES [SEED]   power fails at a random moment of a deed, and of what was not synchronised chance
+//                               keeps, drops or tears what it wants
 //   try_faults taken TIMES      the file removed, replaced or made read-only at random moments of them, its folder removed
 //   try_faults damage TIMES [SEED]  random bytes of a file changed, then looked at, edited, copied from and deleted in
 //   try_faults many INLETS      a file of many inlets
@@ -55,9 +62,9 @@ bool fill(const Site& site, int steps) {
     return good;
 }
 
-bool fail_calls(const Site& site) {
+bool fail_each(const Site& site) {
     bool good = true;
-    const auto deeds = deeds_in_a_project(site);
+    const auto deeds = deeds_of_all_kinds(site);
     for (const auto failure : {CallFailure::full, CallFailure::broken, CallFailure::killed}) {
         for (const auto& deed : deeds) {
             good = fail_each_call(site, deed, failure).tell() && good;
@@ -66,13 +73,18 @@ bool fail_calls(const Site& site) {
     return good;
 }
 
+template <CallKind kind>
+bool fail_some(const Site& site, int times, int seed) {
+    return fail_calls_of(site, kind, times, seed).tell();
+}
+
 bool take(const Site& site, int times) {
     bool good = true;
     const auto deeds = deeds_in_a_project(site);
     for (const auto& taking : takings()) {
         for (const auto& deed : deeds) {
             // One that is done by opening is over before the file can be taken away.
-            good = (deed.by_opening || take_away(site, deed, taking, times).tell()) && good;
+            good = (deed.from_the_start || take_away(site, deed, taking, times).tell()) && good;
         }
     }
     return good;
@@ -97,7 +109,15 @@ struct Faults {
 constexpr auto all_faults = std::to_array<Faults>({
     {"kills", "TIMES", [](const Site& site, int count, int) { return kill(site, count); }},
     {"full_disk", "STEPS", [](const Site& site, int count, int) { return fill(site, count); }},
-    {"calls", "", [](const Site& site, int, int) { return fail_calls(site); }},
+    {"calls", "", [](const Site& site, int, int) { return fail_each(site); }},
+    {"fsync", "TIMES [SEED]", fail_some<CallKind::sync>},
+    {"read", "TIMES [SEED]", fail_some<CallKind::read>},
+    {"rename", "TIMES [SEED]", fail_some<CallKind::rename>},
+    {"unlink", "TIMES [SEED]", fail_some<CallKind::remove>},
+    {"locks", "TIMES [SEED]",
+     [](const Site& site, int count, int seed) { return lock_during_commands(site, count, seed).tell(); }},
+    {"power", "TIMES [SEED]",
+     [](const Site& site, int count, int seed) { return cut_power(site, count, seed).tell(); }},
     {"taken", "TIMES", [](const Site& site, int count, int) { return take(site, count); }},
     {"damage", "TIMES [SEED]", damage},
     {"many", "INLETS", [](const Site& site, int count, int) { return work_in_many(site, count).tell(); }},

@@ -1,9 +1,11 @@
 #include "faults/designer.h"
 
+#include <algorithm>
 #include <filesystem>
 
 #include "platform/file_dialog.h"
 #include "platform/files.h"
+#include "platform/spreadsheet.h"
 #include "reports/report_writer.h"
 #include "support/fresh_start.h"
 #include "support/sqlite_file.h"
@@ -49,7 +51,6 @@ void look_at_record(int row) {
     for (int page = pages - 1; page >= 0; --page) {
         view_tab_clicked(page);
     }
-    unload_inlet_view();
 }
 
 void fill_details(const std::string& project_name) {
@@ -71,6 +72,9 @@ Designer::Designer(const std::string& program_folder) {
     platform::outside = {};
     platform::outside.show_box = [this](const platform::Box& box) {
         boxes.push_back(box);
+        if (on_box) {
+            on_box();
+        }
         return platform::Answer::yes;
     };
     platform::outside.choose_file = [this](const platform::FileDialogRequest&) { return chosen_path_; };
@@ -84,6 +88,11 @@ Designer::Designer(const std::string& program_folder) {
         }
         store::frmProject.visible = false;
     };
+    platform::spreadsheet.open = [](const std::string&, platform::SheetChoice) {
+        return platform::SheetContent();
+    };
+    platform::spreadsheet.hand_over = [this](const std::string&, platform::SheetChoice,
+                                             const platform::Cells& cells) { sheet = cells; };
     platform::set_program_folder(program_folder);
     store::load_main_window();
     store::frmsoftwaremain.visible = true;
@@ -92,6 +101,7 @@ Designer::Designer(const std::string& program_folder) {
 Designer::~Designer() {
     testing_support::forget_everything();
     platform::outside = {};
+    platform::spreadsheet = {};
     platform::set_program_folder("");
 }
 
@@ -114,13 +124,17 @@ void Designer::close() {
     store::mnucloseProj_Click();
 }
 
-void Designer::look_at_every_row() {
+void Designer::look_at_every_row(const std::function<void()>& look) {
+    const auto tell = [&] { look ? look() : void(); };
     for (int row = 1; row <= rows(); ++row) {
         look_at_row(row);
+        tell();
     }
     show_inlet_list();
     for (int row = 1; row <= frminletflex.Adodc1.record_count(); ++row) {
         look_at_record(row);
+        tell();
+        unload_inlet_view();
     }
     unload_inlet_list();
 }
@@ -128,6 +142,9 @@ void Designer::look_at_every_row() {
 void Designer::edit(int row, const std::function<std::string(const std::string& station)>& change) {
     pick_grid_row(row);
     mnuEditinlet_Click();
+    if (viewing()) {
+        return;  // nothing can be typed
+    }
     const std::string text = change(frminletMDIC.screen.text(Station));
     type(Station, text);
     type(RoadWay, text);
@@ -141,6 +158,9 @@ void Designer::edit(int row, const std::string& text) {
 void Designer::copy(int row, const std::string& number) {
     pick_grid_row(row);
     mnuflexcopyinlet_Click();
+    if (viewing()) {
+        return;
+    }
     type(Inlet_Number, number);
     solve_and_save();
 }
@@ -171,6 +191,54 @@ void Designer::save_details(const std::string& project_name) {
 void Designer::write_report(const std::string& path) {
     chosen_path_ = path;
     reports::inlet_report(static_cast<std::size_t>(rows()), engine::open_inlet);
+}
+
+void Designer::write_design_form(const std::string& path) {
+    chosen_path_ = path;
+    reports::InletDesignForm(static_cast<std::size_t>(rows()));
+}
+
+void Designer::pick(int row) {
+    pick_grid_row(row);
+}
+
+void Designer::name_previous(int row, const std::string& number) {
+    pick_grid_row(row);
+    mnuEditinlet_Click();
+    if (viewing()) {
+        return;
+    }
+    tab_clicked(1);
+    type(preinlet1, number);
+    if (told_of_failure()) {
+        mnuExit_Click();
+        return;
+    }
+    solve_and_save();
+}
+
+void Designer::view(int row) {
+    if (frmviewinlet.visible) {
+        unload_inlet_view();
+    }
+    show_inlet_list();
+    refresh_inlet_list();
+    inletflex_EnterCell(row);
+    inletflex_DblClick();
+}
+
+bool Designer::told_of_failure() const {
+    return std::ranges::any_of(boxes, [](const platform::Box& box) {
+        return !box.text.empty() && box.text.front() >= 'a' && box.text.front() <= 'z';
+    });
+}
+
+std::string Designer::what_was_told() const {
+    std::string texts = "; told:";
+    for (const auto& box : boxes) {
+        texts += " \"" + box.text + '"';
+    }
+    return texts;
 }
 
 int Designer::rows() {

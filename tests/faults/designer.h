@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/outside.h"
+#include "platform/sheet.h"
 
 /// A designer at the whole program, without its windows: what he does calls what the shell would call. He answers Yes
 /// to every question, and the boxes that he sees are kept.
@@ -19,6 +20,8 @@ class Designer {
     Designer& operator=(const Designer&) = delete;
 
     std::vector<platform::Box> boxes;
+    std::function<void()> on_box;  // told of each
+    platform::Cells sheet;         // what the spreadsheet shows of the last report
 
     /// Create, overwriting what is there; the details form is left unsaved, or saved with this name.
     void create(const std::string& path, const std::string& project_name = "");
@@ -27,8 +30,8 @@ class Designer {
     /// The workspace and the project are closed.
     void close();
 
-    /// Every row: in the grid, on the form, in the listing, in the record view.
-    void look_at_every_row();
+    /// Every row: in the grid, on the form, in the listing, in the record view. `look` is told of each.
+    void look_at_every_row(const std::function<void()>& look = nullptr);
 
     // Commands on the row of the grid, which counts from 1.
     /// Types `text` into fields of the first page, solves and saves.
@@ -41,6 +44,17 @@ class Designer {
     void renumber(int row, const std::string& number);
     void save_details(const std::string& project_name);
     void write_report(const std::string& path);
+    void write_design_form(const std::string& path);
+    void pick(int row);
+    /// Names `number` as the inlet upstream on the left, solves and saves; gives it up when he is told of a failure.
+    void name_previous(int row, const std::string& number);
+    /// Opens the listing, or reads it again, and looks at the record of a row.
+    void view(int row);
+
+    /// True when a box has told him the store's description of a failure: no message of the program's own begins small.
+    [[nodiscard]] bool told_of_failure() const;
+    /// The texts of the boxes, for a report.
+    [[nodiscard]] std::string what_was_told() const;
 
     [[nodiscard]] static int rows();
     [[nodiscard]] static std::string number_in(int row);

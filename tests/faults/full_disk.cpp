@@ -10,10 +10,9 @@
 namespace gullymark::faults {
 namespace {
 
-using testing_support::SharedNumber;
 using testing_support::write_file;
 
-/// Makes the disk fail to a degree: a limit of growth, a number of free pages, the first call that fails.
+/// Makes the disk fail to a degree: a limit of growth, a number of free pages.
 using Scarcity = std::function<void(const Site& site, int degree)>;
 
 constexpr std::uint64_t page = 4096;
@@ -57,11 +56,10 @@ Outcome act_in_every_want(const Site& site, const Deed& deed, const Scarcity& sc
     const Course course = run_undisturbed(site, deed, 1);
     for (int degree = 0; degree < degrees; ++degree) {
         site.begin_anew(deed.old_file);
-        const auto open = [&](Designer& designer) { designer.open(site.file()); };
         act_in_want(
             site, scarcity, degree, outcome,
-            [&](Designer& designer) { deed.by_opening ? void() : open(designer); },
-            [&](Designer& designer) { deed.by_opening ? open(designer) : deed.act(designer, site, 0); });
+            [&](Designer& designer) { deed.from_the_start ? void() : designer.open(site.file()); },
+            [&](Designer& designer) { deed.act(designer, site, 0); });
         const auto round = "degree " + std::to_string(degree) + ": ";
         if (const auto complaint = complaint_about(site, site.file()); !complaint.empty()) {
             outcome.fail(round + complaint);
@@ -78,14 +76,6 @@ Outcome act_in_every_want(const Site& site, const Deed& deed, const Scarcity& sc
         }
     }
     return outcome;
-}
-
-/// How many calls the undisturbed deed makes.
-int calls_of(const Site& site, const Deed& deed) {
-    const SharedNumber calls;
-    const auto count_all = [&](const Site&, int) { fail_calls_from(0, CallFailure::full, *calls); };
-    static_cast<void>(act_in_every_want(site, deed, count_all, 1));
-    return *calls;
 }
 
 /// A file that is made from a template over an old one is the old one or a whole copy.
@@ -150,13 +140,6 @@ Outcome fill_disk_while_creating(const Site& site, int pages) {
 }
 Outcome fill_disk_of_report(const Site& site, int pages) {
     return named(report_in_every_want(site, leave_free_pages, pages), "full disk");
-}
-
-Outcome fail_each_call(const Site& site, const Deed& deed, CallFailure failure) {
-    const int calls = calls_of(site, deed);
-    const SharedNumber made;
-    const auto fail = [&](const Site&, int degree) { fail_calls_from(degree + 1, failure, *made); };
-    return named(act_in_every_want(site, deed, fail, calls), name_of(failure));
 }
 
 bool mount_small_disk(const Site& site) {

@@ -28,8 +28,8 @@ void judge(const Site& site, const Course& course, int done, Outcome& outcome, c
     }
     const auto at = static_cast<std::size_t>(found - course.states.begin());
     const auto least = done < 0 ? 0 : course.after_deed.at(static_cast<std::size_t>(done));
-    const auto most =
-        course.after_deed.at(std::min<std::size_t>(static_cast<std::size_t>(done + 1), deeds_each));
+    const auto most = course.after_deed.at(
+        std::min<std::size_t>(static_cast<std::size_t>(done + 1), course.after_deed.size() - 1));
     if (at < least || at > most) {
         outcome.fail(round + "a deed that had come back is undone");
     }
@@ -62,7 +62,7 @@ std::string kind_after_create(const Site& site, const std::string& old_content, 
 
 Outcome kill_during(const Site& site, const Deed& deed, int times) {
     Outcome outcome{.name = "kill -9 during " + deed.name};
-    const Course course = run_undisturbed(site, deed, deeds_each);
+    const Course course = run_undisturbed(site, deed, times_each(deed));
     const SharedNumber done;
     const auto all = [&] { do_all(site, deed, *done); };
     const auto duration = time_of([&] { site.begin_anew(deed.old_file); }, all);

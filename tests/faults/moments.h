@@ -11,9 +11,10 @@
 /// Disturbing a designer at his work at random moments.
 namespace gullymark::faults {
 
-constexpr int deeds_each = 6;
+/// How often a process does a deed: one that opens the file does so once.
+int times_each(const Deed& deed);
 
-/// Opens the project and does the deed six times; `done` counts what came back, from -1 before the open.
+/// Opens the project and does the deed so often; `done` counts what came back, from -1 before the open.
 void do_all(const Site& site, const Deed& deed, std::atomic<int>& done);
 
 /// How long an undisturbed process takes at least, so that the moments fall all over it.

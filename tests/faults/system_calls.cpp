@@ -1,90 +1,224 @@
 #include "faults/system_calls.h"
 
+#include <dlfcn.h>
 #include <fcntl.h>
-#include <sqlite3.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
-#include <stdexcept>
-#include <string>
+#include <cstdarg>
+#include <cstdio>
+#include <utility>
 
 namespace gullymark::faults {
 namespace {
 
-struct Plan {
-    int first = 0;
-    CallFailure failure = CallFailure::full;
-    std::atomic<int>* calls = nullptr;
-} plan;
+struct Watcher {
+    std::string folder;
+    Watch watch;
+};
 
-bool fails() {
-    const int call = ++*plan.calls;
-    return plan.first != 0 && call >= plan.first;
+// No object with a destructor: files are read before main and after it.
+Watcher* watcher = nullptr;
+bool silent = false;  // the watcher's own calls, and those of an onlooker, pass
+
+bool is_watched() {
+    return watcher != nullptr && !silent;
 }
 
-bool is_first() {
-    return *plan.calls == plan.first;
-}
-
-int refuse() {
-    if (plan.failure == CallFailure::killed) {
-        _exit(0);
+std::string absolute(const char* path) {
+    if (path[0] == '/') {
+        return path;
     }
-    errno = plan.failure == CallFailure::full ? ENOSPC : EIO;
-    return -1;
+    std::array<char, 4096> folder{};
+    return getcwd(folder.data(), folder.size()) == nullptr ? path : std::string(folder.data()) + "/" + path;
 }
 
-ssize_t write_at(int file, const void* bytes, std::size_t count, off_t offset) {
-    if (!fails()) {
-        return pwrite(file, bytes, count, offset);
+std::string path_of(int file) {
+    std::array<char, 4096> path{};
+    const auto link = "/proc/self/fd/" + std::to_string(file);
+    const auto length = readlink(link.c_str(), path.data(), path.size());
+    return {path.data(), length < 0 ? 0 : static_cast<std::size_t>(length)};
+}
+
+Fate fate_of(const SystemCall& call) {
+    const bool here = call.path.starts_with(watcher->folder) || call.kind == CallKind::sleep;
+    if (!here) {
+        return {};
     }
-    const bool torn = is_first() && plan.failure != CallFailure::broken && count > 1;
-    const ssize_t written = torn ? pwrite(file, bytes, count / 2, offset) : -1;
-    return written > 0 && plan.failure == CallFailure::full ? written : refuse();
+    const Unwatched unwatched;
+    return watcher->watch(call);
 }
 
-/// Room that is given back is never refused on a full disk.
-int cut(int file, off_t size) {
-    return fails() && plan.failure != CallFailure::full ? refuse() : ftruncate(file, size);
-}
-int remove_file(const char* path) {
-    return fails() && plan.failure != CallFailure::full ? refuse() : unlink(path);
+/// Carries a call out as its fate wants it, given how the system makes it.
+template <typename Make>
+auto carry_out(const SystemCall& call, Make make) -> decltype(make()) {
+    const Fate fate = fate_of(call);
+    if (fate.error != 0) {
+        errno = fate.error;
+        return -1;
+    }
+    return fate.believed ? 0 : make();
 }
 
-int open_file(const char* path, int flags, int mode) {
+/// What the system, or a sanitizer before it, has under the name of one of the definitions below.
+template <typename Function>
+Function* next(const char* name) {
+    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
+}
+
+template <typename Make>
+auto on_file(CallKind kind, int file, Make make, std::uint64_t size = 0) -> decltype(make()) {
+    return is_watched() ? carry_out({.kind = kind, .path = path_of(file), .size = size}, make) : make();
+}
+
+template <typename Make>
+int on_name(CallKind kind, const char* path, const char* new_path, Make make) {
+    if (!is_watched()) {
+        return make();
+    }
+    const auto new_name = new_path == nullptr ? "" : absolute(new_path);
+    return carry_out({.kind = kind, .path = absolute(path), .new_path = new_name}, make);
+}
+
+template <typename Make>
+ssize_t on_write(int file, const void* bytes, std::size_t count, std::uint64_t offset, Make make) {
+    if (!is_watched()) {
+        return make(count);
+    }
+    const Fate fate = fate_of({.kind = CallKind::write,
+                               .path = path_of(file),
+                               .offset = offset,
+                               .bytes = {static_cast<const char*>(bytes), count}});
+    if (fate.written == 0 && fate.error != 0) {
+        errno = fate.error;
+        return -1;
+    }
+    return make(fate.written > 0 ? fate.written : count);
+}
+
+template <typename Make>
+int on_open(const char* path, int flags, Make make) {
+    if (!is_watched()) {
+        return make();
+    }
     const bool makes = (flags & O_CREAT) != 0 && access(path, F_OK) != 0;
-    return makes && fails() ? refuse() : open(path, flags, mode);
-}
-
-template <typename Call>
-void replace(const char* name, Call call) {
-    sqlite3_vfs* system = sqlite3_vfs_find(nullptr);
-    if (system->xSetSystemCall(system, name, reinterpret_cast<sqlite3_syscall_ptr>(call)) != SQLITE_OK) {
-        throw std::runtime_error(std::string("SQLite has no call ") + name);
-    }
+    const bool cuts = (flags & O_TRUNC) != 0 && !makes;
+    return carry_out({.kind = makes  ? CallKind::make
+                              : cuts ? CallKind::cut
+                                     : CallKind::open,
+                      .path = absolute(path)},
+                     make);
 }
 
 }  // namespace
 
-const char* name_of(CallFailure failure) {
-    switch (failure) {
-        case CallFailure::full:
-            return "disk full at each call";
-        case CallFailure::broken:
-            return "disk broken at each call";
-        default:
-            return "killed at each call";
-    }
+Watching::Watching(std::string folder, Watch watch) {
+    watcher = new Watcher{std::move(folder), std::move(watch)};
+}
+Watching::~Watching() {
+    delete std::exchange(watcher, nullptr);
 }
 
-void fail_calls_from(int first, CallFailure failure, std::atomic<int>& calls) {
-    plan = {first, failure, &calls};
-    calls = 0;
-    replace("pwrite", write_at);
-    replace("pwrite64", write_at);
-    replace("ftruncate", cut);
-    replace("unlink", remove_file);
-    replace("open", open_file);
+Unwatched::Unwatched() : before_(std::exchange(silent, true)) {}
+Unwatched::~Unwatched() {
+    silent = before_;
 }
 
 }  // namespace gullymark::faults
+
+// The system's functions. Here they have other names, so as not to meet the declarations of its headers, which differ
+// from one library to the next; to the linker they are the system's.
+extern "C" {
+
+using gullymark::faults::CallKind;
+using gullymark::faults::next;
+
+int watched_open(const char* path, int flags, ...) __asm__("open");
+int watched_open64(const char* path, int flags, ...) __asm__("open64") __attribute__((alias("open")));
+int watched_open(const char* path, int flags, ...) {
+    static auto* const system = next<int(const char*, int, ...)>("open");
+    va_list more;
+    va_start(more, flags);
+    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
+    va_end(more);
+    return gullymark::faults::on_open(path, flags, [&] { return system(path, flags, mode); });
+}
+
+ssize_t watched_read(int file, void* bytes, std::size_t count) __asm__("read");
+ssize_t watched_read(int file, void* bytes, std::size_t count) {
+    static auto* const system = next<ssize_t(int, void*, std::size_t)>("read");
+    return gullymark::faults::on_file(CallKind::read, file, [&] { return system(file, bytes, count); });
+}
+
+ssize_t watched_pread(int file, void* bytes, std::size_t count, off_t offset) __asm__("pread");
+ssize_t watched_pread64(int file, void* bytes, std::size_t count, off_t offset) __asm__("pread64")
+    __attribute__((alias("pread")));
+ssize_t watched_pread(int file, void* bytes, std::size_t count, off_t offset) {
+    static auto* const system = next<ssize_t(int, void*, std::size_t, off_t)>("pread");
+    return gullymark::faults::on_file(CallKind::read, file,
+                                      [&] { return system(file, bytes, count, offset); });
+}
+
+ssize_t watched_write(int file, const void* bytes, std::size_t count) __asm__("write");
+ssize_t watched_write(int file, const void* bytes, std::size_t count) {
+    static auto* const system = next<ssize_t(int, const void*, std::size_t)>("write");
+    const auto here = gullymark::faults::is_watched() ? lseek(file, 0, SEEK_CUR) : 0;
+    return gullymark::faults::on_write(file, bytes, count, static_cast<std::uint64_t>(here),
+                                       [&](std::size_t part) { return system(file, bytes, part); });
+}
+
+ssize_t watched_pwrite(int file, const void* bytes, std::size_t count, off_t offset) __asm__("pwrite");
+ssize_t watched_pwrite64(int file, const void* bytes, std::size_t count, off_t offset) __asm__("pwrite64")
+    __attribute__((alias("pwrite")));
+ssize_t watched_pwrite(int file, const void* bytes, std::size_t count, off_t offset) {
+    static auto* const system = next<ssize_t(int, const void*, std::size_t, off_t)>("pwrite");
+    return gullymark::faults::on_write(file, bytes, count, static_cast<std::uint64_t>(offset),
+                                       [&](std::size_t part) { return system(file, bytes, part, offset); });
+}
+
+int watched_ftruncate(int file, off_t size) __asm__("ftruncate");
+int watched_ftruncate64(int file, off_t size) __asm__("ftruncate64") __attribute__((alias("ftruncate")));
+int watched_ftruncate(int file, off_t size) {
+    static auto* const system = next<int(int, off_t)>("ftruncate");
+    return gullymark::faults::on_file(
+        CallKind::cut, file, [&] { return system(file, size); }, static_cast<std::uint64_t>(size));
+}
+
+int watched_fsync(int file) __asm__("fsync");
+int watched_fdatasync(int file) __asm__("fdatasync") __attribute__((alias("fsync")));
+int watched_fsync(int file) {
+    static auto* const system = next<int(int)>("fsync");
+    return gullymark::faults::on_file(CallKind::sync, file, [&] { return system(file); });
+}
+
+int watched_rename(const char* path, const char* new_path) __asm__("rename");
+int watched_rename(const char* path, const char* new_path) {
+    static auto* const system = next<int(const char*, const char*)>("rename");
+    return gullymark::faults::on_name(CallKind::rename, path, new_path,
+                                      [&] { return system(path, new_path); });
+}
+
+int watched_unlink(const char* path) __asm__("unlink");
+int watched_unlink(const char* path) {
+    static auto* const system = next<int(const char*)>("unlink");
+    return gullymark::faults::on_name(CallKind::remove, path, nullptr, [&] { return system(path); });
+}
+
+int watched_remove(const char* path) __asm__("remove");
+int watched_remove(const char* path) {
+    static auto* const system = next<int(const char*)>("remove");
+    return gullymark::faults::on_name(CallKind::remove, path, nullptr, [&] { return system(path); });
+}
+
+int watched_usleep(useconds_t microseconds) __asm__("usleep");
+int watched_usleep(useconds_t microseconds) {
+    static auto* const system = next<int(useconds_t)>("usleep");
+    if (!gullymark::faults::is_watched()) {
+        return system(microseconds);
+    }
+    return gullymark::faults::carry_out({.kind = CallKind::sleep, .size = microseconds},
+                                        [&] { return system(microseconds); });
+}
+
+}  // extern "C"

@@ -64,7 +64,7 @@ std::string half_stored(const Site& site, const Course& course) {
     return std::ranges::count(course.states, content) == 0 ? "a row is neither old nor new" : "";
 }
 
-void prepare(const Site& site, const Deed& deed) {
+void begin_writable(const Site& site, const Deed& deed) {
     site.begin_anew(deed.old_file);
     fs::permissions(site.path(""), fs::perms(0755));
     allow_writing(site);
@@ -81,7 +81,7 @@ std::vector<Taking> takings() {
 
 Outcome take_away(const Site& site, const Deed& deed, const Taking& taking, int times) {
     Outcome outcome{.name = taking.name + " during " + deed.name};
-    const Course course = run_undisturbed(site, deed, deeds_each);
+    const Course course = run_undisturbed(site, deed, times_each(deed));
     const SharedNumber done;
     const auto all = [&] {
         if (!testing_support::become_unprivileged()) {
@@ -89,10 +89,10 @@ Outcome take_away(const Site& site, const Deed& deed, const Taking& taking, int 
         }
         do_all(site, deed, *done);
     };
-    const auto duration = time_of([&] { prepare(site, deed); }, all);
+    const auto duration = time_of([&] { begin_writable(site, deed); }, all);
     std::mt19937 random(20100503);
     for (int round = 0; round < times; ++round) {
-        prepare(site, deed);
+        begin_writable(site, deed);
         *done = -1;
         const auto name = "round " + std::to_string(round) + ": ";
         outcome.count("runs");
@@ -100,7 +100,7 @@ Outcome take_away(const Site& site, const Deed& deed, const Taking& taking, int 
             while (*done < 0) {
                 std::this_thread::yield();
             }
-            outcome.count("in the middle", *done < deeds_each ? 1 : 0);
+            outcome.count("in the middle", *done < times_each(deed) ? 1 : 0);
             taking.take(site);
         });
         if (!ended) {

@@ -19,9 +19,27 @@ Outcome deny_growth(const Site& site, const Deed& deed, int limits);
 Outcome deny_growth_while_creating(const Site& site, int limits);
 Outcome deny_growth_of_report(const Site& site, int limits);
 
-/// The same for each of SQLite's calls in turn, the failing one and all after it. A file is always as one of the deed's
-/// statements left it.
+/// What becomes of the calls that change files, from one of them on.
+enum class CallFailure {
+    full,    // no room: half of the bytes of that write, and no new file or byte from then on
+    broken,  // nothing can be written, cut, made, renamed or removed any more
+    killed   // half of the bytes of that write, and the process ends
+};
+
+/// Lets each of those calls of the deed fail in its turn, and all after it. The files are always as one of the deed's
+/// statements left them.
 Outcome fail_each_call(const Site& site, const Deed& deed, CallFailure failure);
+
+/// Lets one call of this kind fail in a deed of any kind, or more of them, `times` times over. The files are always as one
+/// of the deed's statements left them, and nothing else is shown.
+Outcome fail_calls_of(const Site& site, CallKind kind, int times, int first_seed);
+
+/// Lets another program hold a lock of 0.1 to 2 s on the project, from a random moment of a command on, `times` times over.
+/// Nothing is stored that was not asked for, and nothing is shown that is not so.
+Outcome lock_during_commands(const Site& site, int times, int first_seed);
+
+/// Lets power fail at a random moment of a deed of any kind, `times` times over. What had come back is there.
+Outcome cut_power(const Site& site, int times, int first_seed);
 
 /// The same on a disk of its own with from none to `pages` free pages. Needs the rights of root.
 Outcome fill_disk(const Site& site, const Deed& deed, int pages);
