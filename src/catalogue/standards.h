@@ -22,6 +22,7 @@ using Row = std::array<std::string_view, most_columns>;
 /// The row between two groups.
 inline constexpr Row separator{};
 
+/// True for a row without a name: it groups the rows and cannot be picked.
 constexpr bool is_separator(const Row& row) {
     return row.front().empty();
 }

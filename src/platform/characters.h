@@ -8,6 +8,7 @@
 /// they come; nothing fails.
 namespace gullymark::platform {
 
+/// How many characters `text` has; a byte that begins none adds none.
 [[nodiscard]] std::size_t count_characters(std::string_view text);
 
 /// The first `count` characters; the whole text when it has no more.

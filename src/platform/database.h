@@ -43,18 +43,22 @@ class Connection {
     /// Reads all of the file. Where it is damaged this is a failure, and nothing is stored in it through this
     /// connection any more: a write could destroy what can still be read. A file that is locked right now is not judged.
     void check();
+    /// From here on every write through this connection is a failure; reading goes on. Fails when it is not open.
     void refuse_writes();
+    /// True while writes are refused; false when nothing is open.
     [[nodiscard]] bool refuses_writes() const;
 
-    /// Fails when the connection is not open.
+    /// Closes the file for this connection and its row sets. Fails when the connection is not open.
     void close();
 
+    /// True from a successful `open` to the close.
     [[nodiscard]] bool is_open() const;
 
     /// Runs one statement that returns no rows. Text after its end, or a second statement, is a failure. Of an ALTER
     /// with several columns, of which some cannot be added, the first failure.
     void execute(const std::string& statement);
 
+    /// The open file, for the row sets of this folder; null before the first `open`.
     [[nodiscard]] const std::shared_ptr<DatabaseHandle>& handle() const { return handle_; }
 
   private:
@@ -77,9 +81,11 @@ class RowSet {
     RowSet(RowSet&&) noexcept;
     RowSet& operator=(RowSet&&) noexcept;
 
-    /// Runs the statement as it stands and goes to the first row, if there is one.
+    /// Runs the statement as it stands and goes to the first row, if there is one. On a failure the set stays as it was.
     void open(const Connection& connection, const std::string& statement);
+    /// Lets go of the rows; a pending new row is dropped. A set that is not open stays so.
     void close();
+    /// True from a successful `open` to `close`, also when the connection was closed meanwhile.
     [[nodiscard]] bool is_open() const;
 
     /// The number of rows, exact at once; a pending new row is not counted before it is saved.
@@ -91,8 +97,10 @@ class RowSet {
     // Position. An empty set is at its beginning and its end. A move drops a pending new row.
     [[nodiscard]] bool at_beginning() const;  // before the first row
     [[nodiscard]] bool at_end() const;        // behind the last row
+    /// To the first row, to the last; an empty set has neither and stays at its ends.
     void move_first();
     void move_last();
+    /// To the row that follows; from the last one to the end, and from there nowhere.
     void move_next();
     /// Forward (or back, when negative) by `rows` from the current position; stops at either end marker.
     void move(std::int64_t rows);
@@ -103,19 +111,22 @@ class RowSet {
     void find(const std::string& condition);
     /// A mark that finds the current row again, also after `requery`.
     [[nodiscard]] std::int64_t bookmark() const;
+    /// Back to a marked row. A row that is no longer in the set is a failure, and the position stays.
     void go_to(std::int64_t bookmark);
 
     // The current row. Failure when there is none: at an end marker. A pending new row reads as nulls.
     [[nodiscard]] Row row() const;
+    /// One column of it by the name in `columns()`; a name that is not there is a failure.
     [[nodiscard]] std::optional<std::string> value(std::string_view column) const;
 
-    /// The row at `index` (0 is the first), wherever the current position is: for lists.
+    /// The row at `index` (0 is the first), wherever the current position is: for lists. An index beyond them is a failure.
     [[nodiscard]] Row row_at(std::size_t index) const;
     /// One column of all rows in order, read at once: for lists. Null for a row that is no longer in the file.
     [[nodiscard]] Row all_values(std::string_view column) const;
 
     /// Makes a new row pending; `save` stores it behind the last row of the set.
     void add_new();
+    /// True while a new row is pending.
     [[nodiscard]] bool adding() const;
     /// Stores `values`, in the order of `columns()`, as the pending new row or into the current row, in one statement
     /// that is carried out whole or not at all. Only columns that differ from what was loaded are written; in a new

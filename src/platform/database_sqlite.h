@@ -36,6 +36,7 @@ struct DatabaseHandle {
     DatabaseHandle(DatabaseHandle&&) = delete;
     DatabaseHandle& operator=(DatabaseHandle&&) = delete;
 
+    /// Closes the file, if it is open; the row sets that share it fail from then on.
     void close();
 
     /// The keys of the rows, in the order of `query`. Sets of the same rows share them until the file changes: a
@@ -60,6 +61,7 @@ class Statement {
 
     /// Parameters count from 1.
     void bind(int parameter, std::int64_t key);
+    /// A null for no text.
     void bind(int parameter, const std::optional<std::string>& text);
 
     /// True when there is a row to look at, false at the end.
@@ -69,9 +71,12 @@ class Statement {
 
     // Columns count from 0.
     [[nodiscard]] int column_count() const { return sqlite3_column_count(statement_); }
+    /// Of the row that `step` stands on; nothing for a null.
     [[nodiscard]] std::optional<std::string> text(int column) const;
+    /// The same as a whole number; 0 for a null and for a text that is none.
     [[nodiscard]] std::int64_t integer(int column) const { return sqlite3_column_int64(statement_, column); }
 
+    /// The engine's own statement, for what this class does not offer; it belongs to this object.
     [[nodiscard]] sqlite3_stmt* get() const { return statement_; }
 
   private:
@@ -82,10 +87,10 @@ class Statement {
 /// A failure for a statement from outside that has a comment in it.
 void refuse_comments(std::string_view statement);
 
-/// The number that a statement gives.
+/// The number in the first column of the first row that a statement gives; 0 when it gives none.
 std::int64_t read_integer(sqlite3* file, std::string_view statement);
 
-/// The first column of all rows.
+/// The first column of all rows that are left, in order.
 Keys read_keys(Statement& query);
 
 /// `name` between double quotes, as a statement takes any name.

@@ -14,11 +14,13 @@ struct FileDialog {
     /// A cancelled dialog is then a Failure; otherwise it leaves `file_name` as it was.
     bool cancel_is_error = false;
 
-    /// Show the dialog and wait. Afterwards `file_name` is the full path chosen and the current folder of the process
-    /// is the folder of that path. A name typed for saving without an extension takes the one of the filter; the bare
-    /// "*.gmk" of the filter, typed as a name, chooses nothing and comes back without a folder.
+    /// Shows the dialog for a file to open, and waits. Afterwards `file_name` is the full path chosen and the current
+    /// folder of the process is the folder of that path.
     /// Throws Failure("Cancel was selected.") on a cancel while `cancel_is_error` is on.
     void show_open();
+    /// The same for a file to save into; `must_exist` does not count, and nothing asks about overwriting. A name typed
+    /// without an extension takes the one of the filter; the bare "*.gmk" of the filter, typed as a name, chooses nothing
+    /// and comes back without a folder.
     void show_save();
 };
 

@@ -21,14 +21,17 @@ void copy_file(const std::string& source, const std::string& target,
 
 /// The current folder of the process. Throws Failure when it no longer exists.
 std::string current_folder();
+/// Throws Failure with the folder's path when it cannot be entered; the current folder stays.
 void set_current_folder(const std::string& folder);
 
 /// The folder in which the program and its resources lie (templates, help), as the start told it with
 /// `set_program_folder`; empty before.
 std::string program_folder();
+/// Told once by the start; nothing is checked.
 void set_program_folder(const std::string& folder);
 
-/// `folder` and `name` joined by the platform's separator.
+/// `folder` and `name` joined by the platform's separator; with an empty folder, or an absolute name, the name alone.
+/// Nothing is looked up.
 std::string join_path(const std::string& folder, const std::string& name);
 
 }  // namespace gullymark::platform

@@ -19,12 +19,14 @@ namespace gullymark::platform {
 /// What a text is when it is read as a number.
 enum class NumberFault { none, unreadable, overflow };
 
-/// The number in `text`, correctly rounded to a double. A value too small for a double is 0.
-/// On a text outside the grammar, or a value too large for a double: `fault` says so and the number is 0.
+/// A number, or why there is none.
 struct NumberRead {
     double number = 0.0;
     NumberFault fault = NumberFault::none;
 };
+
+/// The number in `text`, correctly rounded to a double. A value too small for a double is 0.
+/// On a text outside the grammar, or a value too large for a double: `fault` says so and the number is 0.
 NumberRead read_number(std::string_view text);
 
 /// The decimal text of up to 15 significant digits of a finite `number`: "0.1", "12.5", "1E-05".

@@ -57,17 +57,19 @@ struct Outside {
 
 extern Outside outside;
 
-/// A box with an OK button.
+/// Shows a box with an OK button and waits. Without `show_box` nobody is told.
 void tell(const std::string& text, BoxKind kind = BoxKind::plain,
           const std::string& title = application_title);
 
-/// A question; true for Yes.
+/// Asks and waits; true for Yes. Without `show_box` the answer is No.
 bool ask(const std::string& text, BoxKind kind = BoxKind::warning_question,
          const std::string& title = application_title);
 
+// The functions of the table of the same names; each does nothing where nobody set its own.
 void show_wait_pointer(bool waiting);
 void keep_painting();
 void beep();
+/// The date that the table gives, else the system's, local time.
 [[nodiscard]] std::chrono::year_month_day today();
 
 }  // namespace gullymark::platform

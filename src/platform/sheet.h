@@ -50,9 +50,12 @@ struct SheetContent {
 class Sheet {
   public:
     Sheet() = default;
+    /// A sheet that holds `content` already; nothing counts as written.
     explicit Sheet(SheetContent content) : content_(std::move(content)) {}
 
+    /// By the rule above.
     void write(CellPosition cell, std::string_view text);
+    /// As they are, whatever the cell's format.
     void write(CellPosition cell, double number);
     void write(CellPosition cell, Date date);
 

@@ -55,7 +55,7 @@ struct Place;
 
 /// Anything else: a procedure that writes the cell, or leaves it.
 struct Rule {
-    void (*write)(const Place& place);
+    void (*write)(const Place& place);  // a Failure leaves the cell as it is
 };
 
 using Source = std::variant<TextOf, NumberOf, ProjectText, Literal, Today, Product, Sum, YesIfLess, Rule>;
@@ -71,16 +71,20 @@ struct Place {
     platform::CellPosition cell;
     const engine::InletRecord& inlet;
 
+    /// By the rule of platform/sheet.h.
     void write(std::string_view text) const { sheet.write(cell, text); }
     /// A number that is not finite is a Failure.
     void write(double number) const;
+    /// What stands in another cell of this row; columns count from 1.
     [[nodiscard]] platform::CellValue in_column(int column) const { return sheet.read({cell.row, column}); }
     /// Failure for a null and for a text that is no number.
     [[nodiscard]] double number(engine::Column column) const;
+    /// The inlet's text; empty for a null.
     [[nodiscard]] const std::string& text(engine::Column column) const { return inlet.text(column); }
 };
 
-/// Carries out the steps one by one, in the sheet's rows below row `base` (a step's row 1 is row `base` + 1).
+/// Carries out the steps one by one, in the sheet's rows below row `base` (a step's row 1 is row `base` + 1). A step that
+/// fails leaves its cell, and the next one runs.
 void write_cells(platform::Sheet& sheet, int base, std::span<const CellStep> steps,
                  const engine::InletRecord& inlet);
 

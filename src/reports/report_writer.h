@@ -16,8 +16,8 @@ namespace gullymark::reports {
 /// list; with none there is only a message. The folder chosen becomes the session's working folder.
 void inlet_report(std::size_t inlet_count, const engine::InletRecord& current_inlet);
 
-/// Inlet Design Form: all inlets of the open project in the order of their numbers, read from the file. The working
-/// folder stays.
+/// Inlet Design Form: all inlets of the open project in the order of their numbers, read from the file. With none there is
+/// only a message. The working folder stays.
 void InletDesignForm(std::size_t inlet_count);
 
 }  // namespace gullymark::reports

@@ -28,9 +28,11 @@ inline constexpr const char* select_grid =
 /// All columns of the inlet of that number.
 [[nodiscard]] std::string select_inlet(std::string_view number);
 
-/// The row that has `number` as its INLET_NUMBER, the rows that have it as their PREINLET1, or as their PREINLET2.
+/// The row that has `number` as its INLET_NUMBER.
 [[nodiscard]] std::string select_number_usage(std::string_view number);
+/// The rows that have `number` as their PREINLET1.
 [[nodiscard]] std::string select_preinlet1_usage(std::string_view number);
+/// The rows that have `number` as their PREINLET2.
 [[nodiscard]] std::string select_preinlet2_usage(std::string_view number);
 
 /// Gives an inlet a new number, first in its own row, then in the rows that name it as a previous inlet.

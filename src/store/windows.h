@@ -13,6 +13,7 @@ namespace gullymark::store {
 struct Windows {
     /// Shows the splash without waiting and paints it at once.
     std::function<void()> show_splash;
+    /// Closes the splash, if it is shown.
     std::function<void()> unload_splash;
     /// Shows the details form, modal, and waits until `frmProject.visible` is false.
     std::function<void()> run_details_form;

@@ -7,8 +7,8 @@
 /// Lengths are in ft or m, discharges in cfs or cms, angles in radians. A fault leaves as a thrown Fault unless a
 /// procedure says otherwise.
 ///
-/// Background: Federal Highway Administration, Urban Drainage Design Manual (HEC-22), chapter 4. The exponents,
-/// limits and tolerances below are this system's own.
+/// Source: FHWA, HEC-22, third edition, 4.3 and 4.4.5.4, fourth edition, 5.3, 6.1.4 and 7.3.4. Equation by equation, with
+/// what departs: doc/sources.md#gutter-spread, #ditch-depth, #sump-depth
 namespace gullymark::engine {
 
 /// The cross section of a gutter and the flow that it carries.

@@ -12,6 +12,8 @@ namespace gullymark::engine {
 /// longer grates and as a parabola for the shorter ones, of the length in feet:
 ///
 ///   Vo = b1 Lf + b0,  Vo = c2 Lf^2 + c1 Lf + c0
+///
+/// Source: fits of the curves of FHWA, HEC-22, third edition, chart 5B: doc/sources.md#frontal
 struct GrateType {
     std::string_view name;
     std::string_view other_name;  // empty when there is none

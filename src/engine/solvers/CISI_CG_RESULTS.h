@@ -24,8 +24,8 @@
 ///
 /// Runs under the step rule of step.h and shows no message of its own.
 ///
-/// Source: FHWA, Urban Drainage Design Manual (HEC-22), chapter 4, interception by curb openings; coefficients and
-/// limits are this system's own.
+/// Source: FHWA, HEC-22, third edition, 4.4.4.2 and 4.4.4.3, fourth edition, 7.2.2 and 7.2.3.
+/// Equation by equation, with what departs: doc/sources.md#cisi-cg
 namespace gullymark::engine::CISI_CG_RESULTS {
 
 /// Solves the open inlet, as told above.

@@ -29,8 +29,8 @@
 ///
 /// Runs under the step rule of step.h and shows no message of its own.
 ///
-/// Source: FHWA, Urban Drainage Design Manual (HEC-22), chapter 4, curb openings in sag locations;
-/// coefficients and limits are this system's own.
+/// Source: FHWA, HEC-22, third edition, 4.4.5.2, fourth edition, 7.3.2.
+/// Equation by equation, with what departs: doc/sources.md#ci-su
 namespace gullymark::engine::CI_SU_RESULTS {
 
 /// Solves the open inlet, as told above.

@@ -26,8 +26,8 @@
 /// Runs under the step rule of step.h. A slope or roughness of 0 or below, a negative pavement slope and a
 /// gutter flatter than the pavement show a box, and nothing is computed.
 ///
-/// Source: FHWA, Urban Drainage Design Manual (HEC-22), chapter 4, combination inlets on grade; coefficients
-/// and limits are this system's own.
+/// Source: FHWA, HEC-22, third edition, 4.4.4.4, fourth edition, 7.2.4.
+/// Equation by equation, with what departs: doc/sources.md#combo-cg
 namespace gullymark::engine::COMBO_CG_RESULTS {
 
 /// Solves the open inlet, as told above.

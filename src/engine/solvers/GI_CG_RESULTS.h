@@ -31,8 +31,8 @@
 /// Runs under the step rule of step.h and shows no message of its own. Most steps stand in grate_on_grade.h,
 /// those of the frontal efficiency in grate_types.h.
 ///
-/// Source: FHWA, Urban Drainage Design Manual (HEC-22), chapter 4, grate inlets on grade; coefficients and
-/// limits are this system's own.
+/// Source: FHWA, HEC-22, third edition, 4.4.4.1, fourth edition, 7.2.1.
+/// Equation by equation, with what departs: doc/sources.md#gi-cg
 namespace gullymark::engine::GI_CG_RESULTS {
 
 /// Solves the open inlet, as told above.

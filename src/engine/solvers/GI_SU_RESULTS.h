@@ -30,8 +30,8 @@
 /// and a gutter flatter than the pavement show a box and leave all results empty. CURBOPTION has no effect: a
 /// curb shows in the perimeter alone.
 ///
-/// Source: FHWA, Urban Drainage Design Manual (HEC-22), chapter 4, grate inlets in sag locations;
-/// coefficients and limits are this system's own.
+/// Source: FHWA, HEC-22, third edition, 4.4.5.1, fourth edition, 7.3.1.
+/// Equation by equation, with what departs: doc/sources.md#gi-su
 namespace gullymark::engine::GI_SU_RESULTS {
 
 /// Solves the open inlet, as told above.

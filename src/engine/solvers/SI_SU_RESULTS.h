@@ -25,8 +25,8 @@
 ///
 /// Runs under the step rule of step.h and shows no message of its own.
 ///
-/// Source: FHWA, Urban Drainage Design Manual (HEC-22), chapter 4, slotted inlets in sag locations;
-/// coefficients and limits are this system's own.
+/// Source: FHWA, HEC-22, third edition, 4.4.5.3, fourth edition, 7.3.3.
+/// Equation by equation, with what departs: doc/sources.md#si-su
 namespace gullymark::engine::SI_SU_RESULTS {
 
 /// Solves the open inlet, as told above.

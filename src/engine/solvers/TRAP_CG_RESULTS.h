@@ -26,8 +26,8 @@
 /// Runs under the step rule of step.h and shows no message of its own. The steps of the frontal
 /// efficiency stand in grate_types.h.
 ///
-/// Source: FHWA, Urban Drainage Design Manual (HEC-22), chapters 4 and 5, grates in roadside ditches;
-/// coefficients and limits are this system's own.
+/// Source: FHWA, HEC-22, third edition, 4.4.7.1, fourth edition, 7.5.1.
+/// Equation by equation, with what departs: doc/sources.md#trap-cg
 namespace gullymark::engine::TRAP_CG_RESULTS {
 
 /// Solves the open inlet, as told above.

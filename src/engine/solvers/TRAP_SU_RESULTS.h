@@ -20,8 +20,8 @@
 /// Alone among the solvers it ends at the first fault: with a box, the results written so far, and no
 /// formats. So an unreadable GRATEWIDTH ends it as well, though no formula uses the width.
 ///
-/// Source: FHWA, Urban Drainage Design Manual (HEC-22), chapter 4, grate inlets in sag locations;
-/// coefficients and ratings are this system's own.
+/// Source: FHWA, HEC-22, third edition, 4.4.5.1, fourth edition, 7.3.1; the ratings are this system's own.
+/// Equation by equation, with what departs: doc/sources.md#trap-su
 namespace gullymark::engine::TRAP_SU_RESULTS {
 
 /// Solves the open inlet, as told above.
