@@ -35,22 +35,25 @@ void solve_and_save() {
     }
 }
 
-void look_at_row(int row) {
+void look_at_row(int row, const std::function<void()>& look) {
     pick_grid_row(row);
+    look ? look() : void();
     for (int page = pages - 1; page >= 0; --page) {
         tab_clicked(page);
     }
 }
 
-void look_at_record(int row) {
+void look_at_record(int row, const std::function<void()>& look) {
     for (std::size_t column = 0; column < list_headings.size(); ++column) {
         static_cast<void>(list_cell(row, column));
     }
     inletflex_EnterCell(row);
     inletflex_DblClick();
+    look ? look() : void();
     for (int page = pages - 1; page >= 0; --page) {
         view_tab_clicked(page);
     }
+    unload_inlet_view();
 }
 
 void fill_details(const std::string& project_name) {
@@ -124,17 +127,14 @@ void Designer::close() {
     store::mnucloseProj_Click();
 }
 
-void Designer::look_at_every_row(const std::function<void()>& look) {
-    const auto tell = [&] { look ? look() : void(); };
+void Designer::look_at_every_row(const std::function<void()>& at_form,
+                                 const std::function<void()>& at_record) {
     for (int row = 1; row <= rows(); ++row) {
-        look_at_row(row);
-        tell();
+        look_at_row(row, at_form);
     }
     show_inlet_list();
     for (int row = 1; row <= frminletflex.Adodc1.record_count(); ++row) {
-        look_at_record(row);
-        tell();
-        unload_inlet_view();
+        look_at_record(row, at_record);
     }
     unload_inlet_list();
 }

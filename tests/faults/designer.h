@@ -30,8 +30,10 @@ class Designer {
     /// The workspace and the project are closed.
     void close();
 
-    /// Every row: in the grid, on the form, in the listing, in the record view. `look` is told of each.
-    void look_at_every_row(const std::function<void()>& look = nullptr);
+    /// Every row: in the grid, on the form, in the listing, in the record view. `at_form` is told when the form shows a row,
+    /// `at_record` when the record view does; their pages then put some fields of the form in order.
+    void look_at_every_row(const std::function<void()>& at_form = nullptr,
+                           const std::function<void()>& at_record = nullptr);
 
     // Commands on the row of the grid, which counts from 1.
     /// Types `text` into fields of the first page, solves and saves.

@@ -112,8 +112,13 @@ std::string complaint_after(const Site& site, const std::vector<State>& states, 
     if (std::ranges::find(states, found) == states.end()) {
         return "what is found is neither old nor new";
     }
-    if (const auto names = site.names(); !may_leave_files && names.find(".gmk.") != std::string::npos) {
-        return "left beside it: " + names;
+    if (!may_leave_files) {
+        for (const auto& entry : std::filesystem::directory_iterator(site.path("work"))) {
+            const std::string path = entry.path();
+            if (path != site.file() && path != site.journal() && path != site.report()) {
+                return "left beside it: " + path;
+            }
+        }
     }
     return complaint_about_opening(site, found, states.back());
 }

@@ -160,6 +160,21 @@ std::string complaint_about_view(const std::vector<State>& states) {
     return "the record view shows an inlet that is not in the file";
 }
 
+/// The record view, the grid and the listing.
+std::string complaint_about_lists(const std::vector<State>& states) {
+    using namespace editor;  // NOLINT(google-build-using-namespace): all that is looked at is the editor's
+    for (const auto& complaint :
+         {complaint_about_view(states),
+          complaint_about_list("the grid", grid_cell, grid_columns, MDIInlet.Adodc1.record_count(), states),
+          complaint_about_list("the listing", list_cell, list_columns, frminletflex.Adodc1.record_count(),
+                               states)}) {
+        if (!complaint.empty()) {
+            return complaint;
+        }
+    }
+    return "";
+}
+
 }  // namespace
 
 State state_of(const Site& site) {
@@ -181,17 +196,8 @@ State state_of(const Site& site) {
 }
 
 std::string complaint_about_screen(const std::vector<State>& states) {
-    using namespace editor;  // NOLINT(google-build-using-namespace): all that is looked at is the editor's
-    for (const auto& complaint :
-         {complaint_about_form(states), complaint_about_view(states),
-          complaint_about_list("the grid", grid_cell, grid_columns, MDIInlet.Adodc1.record_count(), states),
-          complaint_about_list("the listing", list_cell, list_columns, frminletflex.Adodc1.record_count(),
-                               states)}) {
-        if (!complaint.empty()) {
-            return complaint;
-        }
-    }
-    return "";
+    auto complaint = complaint_about_form(states);
+    return complaint.empty() ? complaint_about_lists(states) : complaint;
 }
 
 std::string complaint_about_opening(const Site& site, const State& state, const State& last) {
@@ -209,8 +215,10 @@ std::string complaint_about_opening(const Site& site, const State& state, const 
         return "it shows " + std::to_string(Designer::rows()) + " inlets";
     }
     std::string complaint;
-    designer.look_at_every_row(
-        [&] { complaint = complaint.empty() ? complaint_about_screen({state}) : complaint; });
+    const auto add = [&](const std::string& more) { complaint = complaint.empty() ? more : complaint; };
+    designer.look_at_every_row([&] { add(complaint_about_form({state})); },
+                               [&] { add(complaint_about_view({state})); });
+    add(complaint_about_lists({state}));
     if (!complaint.empty()) {
         return complaint;
     }
