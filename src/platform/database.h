@@ -36,12 +36,16 @@ class Connection {
     Connection& operator=(Connection&&) noexcept;
 
     /// Opens an existing project file for reading and writing; it reads the schema at once, so that what is no
-    /// project file (not a database, empty, truncated, another program's, a folder, unreadable) fails here.
-    /// A read-only file, or one in a read-only folder, is a failure too: nothing could be saved in it.
+    /// project file (not a database, empty, truncated, another program's, a folder, unreadable) fails here, and one from
+    /// elsewhere with what no project has: views, tables and indexes that compute something, more of them than any
+    /// project needs. A read-only file, one in a read-only folder, or one with a name that leaves no room for the
+    /// journal's is a failure too: nothing could be saved in it. What was saved half is undone, except from a journal
+    /// that no save of this program left, which is a failure. An open that fails writes and deletes nothing.
     void open(const std::string& path);
 
     /// Reads all of the file. Where it is damaged this is a failure, and nothing is stored in it through this
-    /// connection any more: a write could destroy what can still be read. A file that is locked right now is not judged.
+    /// connection any more: a write could destroy what can still be read. A file that is locked right now is not judged;
+    /// one of which the reading does not come to an end is closed.
     void check();
     /// From here on every write through this connection is a failure; reading goes on. Fails when it is not open.
     void refuse_writes();
@@ -131,7 +135,8 @@ class RowSet {
     /// Stores `values`, in the order of `columns()`, as the pending new row or into the current row, in one statement
     /// that is carried out whole or not at all. Only columns that differ from what was loaded are written; in a new
     /// row those that are null take the table's defaults. A row that is no longer in the file is a failure, and so is
-    /// one whose first column, or a column to be written, another program changed since it was read here.
+    /// one whose first column, or a column to be written, another program changed since it was read here. A save that
+    /// failed may have taken effect; tried again, it stores no second row and finds what itself had written.
     void save(const Row& values);
     /// Drops the pending new row and goes back to the row that was current before; nothing is written.
     void cancel();

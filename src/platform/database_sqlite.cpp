@@ -1,20 +1,58 @@
 #include "platform/database_sqlite.h"
 
+#include <ctime>
+
+#include "platform/characters.h"
 #include "platform/database_statements.h"
 #include "platform/failure.h"
 
 namespace gullymark::platform {
+namespace {
+
+/// The processor's time that this thread has used.
+std::int64_t milliseconds_used() {
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return now.tv_sec * 1000 + now.tv_nsec / 1'000'000;
+}
+
+/// When the statement that runs began: one runs at a time.
+thread_local std::int64_t statement_began = 0;
+
+/// In the engine's words, which may hold a name from the file, of any length.
+Failure failure_of(sqlite3* file) {
+    constexpr std::size_t shown = 300;
+    if ((sqlite3_errcode(file) & 0xff) == SQLITE_INTERRUPT) {
+        return Failure("the file cannot be read: it is damaged, or too large for a project");
+    }
+    return Failure(first_characters(sqlite3_errmsg(file), shown));
+}
+
+}  // namespace
 
 void DatabaseHandle::close() {
     sqlite3_close(file);
     file = nullptr;
 }
 
+void DatabaseHandle::limit_time(std::int64_t milliseconds) {
+    constexpr int steps_between = 1000;
+    milliseconds_ = milliseconds;
+    sqlite3_progress_handler(file, steps_between, is_out_of_time, this);
+}
+
+int DatabaseHandle::is_out_of_time(void* handle) {
+    auto& self = *static_cast<DatabaseHandle*>(handle);
+    self.out_of_time_ = self.out_of_time_ || milliseconds_used() - statement_began > self.milliseconds_;
+    return self.out_of_time_ ? 1 : 0;
+}
+
 Statement::Statement(sqlite3* file, std::string_view text) : file_(file) {
+    statement_began = milliseconds_used();
     const char* tail = nullptr;
     if (sqlite3_prepare_v2(file, text.data(), static_cast<int>(text.size()), &statement_, &tail) !=
         SQLITE_OK) {
-        throw Failure(sqlite3_errmsg(file));
+        throw failure_of(file);
     }
     const auto rest = text.substr(static_cast<std::size_t>(tail - text.data()));
     if (statement_ == nullptr || rest.find_first_not_of(" \t\r\n") != std::string_view::npos) {
@@ -33,14 +71,14 @@ void Statement::bind(int parameter, const std::optional<std::string>& text) {
                                                 static_cast<int>(text->size()), SQLITE_TRANSIENT)
                             : sqlite3_bind_null(statement_, parameter);
     if (result != SQLITE_OK) {
-        throw Failure(sqlite3_errmsg(file_));
+        throw failure_of(file_);
     }
 }
 
 bool Statement::step() {
     const int result = sqlite3_step(statement_);
     if (result != SQLITE_ROW && result != SQLITE_DONE) {
-        throw Failure(sqlite3_errmsg(file_));
+        throw failure_of(file_);
     }
     return result == SQLITE_ROW;
 }
@@ -53,9 +91,24 @@ void Statement::run() {
 std::optional<std::string> Statement::text(int column) const {
     const unsigned char* bytes = sqlite3_column_text(statement_, column);
     if (bytes == nullptr) {
+        if (sqlite3_column_type(statement_, column) != SQLITE_NULL) {
+            throw failure_of(file_);
+        }
         return std::nullopt;
     }
     return std::string(bytes, bytes + sqlite3_column_bytes(statement_, column));
+}
+
+Transaction::~Transaction() {
+    if (is_under_way()) {
+        sqlite3_exec(file_, "ROLLBACK", nullptr, nullptr, nullptr);
+    }
+}
+
+void Transaction::commit() {
+    if (is_under_way()) {
+        Statement(file_, "COMMIT").run();
+    }
 }
 
 void refuse_comments(std::string_view statement) {

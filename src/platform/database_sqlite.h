@@ -15,6 +15,9 @@ namespace gullymark::platform {
 /// Marks a project file of this product in the header of the file: "GMK1". The template carries it, so every copy does.
 inline constexpr std::int64_t project_application_id = 0x474D4B31;
 
+/// What an open tells of a file that is a database, but of another program, or empty.
+inline constexpr const char* not_a_project = "this is not a Gullymark project file";
+
 using Keys = std::vector<std::int64_t>;
 
 /// The keys that a query gave, and what stood in the file then.
@@ -39,12 +42,22 @@ struct DatabaseHandle {
     /// Closes the file, if it is open; the row sets that share it fail from then on.
     void close();
 
+    /// From here on each statement may use so much of the processor; one that needs more fails, and all after it do: in a
+    /// damaged or crafted file a statement may never end. Legitimate ones need a fifth of it in the largest projects.
+    static constexpr std::int64_t most_milliseconds = 1000;
+    static constexpr std::int64_t most_milliseconds_when_damaged = 250;
+    void limit_time(std::int64_t milliseconds = most_milliseconds);
+
     /// The keys of the rows, in the order of `query`. Sets of the same rows share them until the file changes: a
     /// workspace reads them for three views, and several times at a save.
     [[nodiscard]] std::shared_ptr<const Keys> keys_of(const std::string& query);
 
   private:
+    static int is_out_of_time(void* handle);
+
     KeysRead last_read_;
+    std::int64_t milliseconds_ = most_milliseconds;
+    bool out_of_time_ = false;
 };
 
 /// One statement for as long as it runs. It never outlives a call: an open one would hold a lock on the file and
@@ -82,6 +95,25 @@ class Statement {
   private:
     sqlite3* file_;
     sqlite3_stmt* statement_ = nullptr;
+};
+
+/// All or nothing of several statements: rolled back unless it is committed.
+class Transaction {
+  public:
+    explicit Transaction(sqlite3* file) : file_(file) { Statement(file_, "BEGIN IMMEDIATE").run(); }
+    ~Transaction();
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
+    Transaction(Transaction&&) = delete;
+    Transaction& operator=(Transaction&&) = delete;
+
+    void commit();
+
+    /// False once a failure has rolled it back.
+    [[nodiscard]] bool is_under_way() const { return sqlite3_get_autocommit(file_) == 0; }
+
+  private:
+    sqlite3* file_;
 };
 
 /// A failure for a statement from outside that has a comment in it.

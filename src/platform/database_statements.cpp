@@ -27,10 +27,14 @@ bool same_word(std::string_view word, std::string_view upper_case) {
 struct Pieces {
     std::string_view text;
     std::size_t at = 0;
+    bool passes_comments = false;  // as if they were blanks
 
     /// The next piece, which stays the next one; empty at the end.
     std::string_view peek() {
         at = std::min(text.find_first_not_of(blanks, at), text.size());
+        while (passes_comments && comment_length() > 0) {
+            at = std::min(text.find_first_not_of(blanks, at + comment_length()), text.size());
+        }
         return text.substr(at, piece_length());
     }
 
@@ -46,6 +50,17 @@ struct Pieces {
         }
         take();
         return true;
+    }
+
+    /// Of the comment that begins here, its end mark included; 0 when none does.
+    [[nodiscard]] std::size_t comment_length() const {
+        const auto begin = text.substr(at, 2);
+        if (begin != "--" && begin != "/*") {
+            return 0;
+        }
+        const std::string_view end_mark = begin == "--" ? "\n" : "*/";
+        const auto end = text.find(end_mark, at + 2);
+        return end == std::string_view::npos ? text.size() - at : end + end_mark.size() - at;
     }
 
   private:
@@ -78,6 +93,14 @@ std::optional<std::string> name_of(std::string_view piece) {
     return std::string(piece);
 }
 
+/// True for a word or quoted text that says "rowid", by which the keys of the rows go.
+bool hides_the_key(std::string_view piece) {
+    if (piece.size() > 2 && !is_name_letter(piece.front())) {
+        piece = piece.substr(1, piece.size() - 2);
+    }
+    return same_word(piece, "ROWID");
+}
+
 /// How a piece changes the depth of parentheses.
 int nesting(std::string_view piece) {
     return piece == "(" ? 1 : piece == ")" ? -1 : 0;
@@ -99,7 +122,61 @@ std::string in_one_spelling(Pieces& pieces) {
     return text;
 }
 
+/// The columns of a table: nothing that the engine would compute or delete with.
+bool is_plain_table(Pieces& pieces) {
+    pieces.take();
+    int depth = nesting(pieces.take());
+    while (depth > 0 && !pieces.peek().empty()) {
+        const auto piece = pieces.take();
+        const bool computes =
+            same_word(piece, "AS") || same_word(piece, "CHECK") || same_word(piece, "COLLATE") ||
+            (same_word(piece, "DEFAULT") && pieces.peek() == "(") ||
+            (same_word(piece, "ON") && same_word(pieces.peek(), "CONFLICT")) || hides_the_key(piece);
+        if (computes) {
+            return false;
+        }
+        depth += nesting(piece);
+    }
+    return pieces.peek().empty() && depth == 0;
+}
+
+/// Columns by their names, up or down.
+bool is_plain_index(Pieces& pieces) {
+    pieces.take();
+    if (!pieces.take_word("ON") || !name_of(pieces.take()) || pieces.take() != "(") {
+        return false;
+    }
+    while (name_of(pieces.peek())) {
+        if (same_word(pieces.take(), "COLLATE")) {
+            return false;
+        }
+        if (pieces.peek() == ",") {
+            pieces.take();
+        }
+    }
+    return pieces.take() == ")" && pieces.peek().empty();
+}
+
 }  // namespace
+
+bool is_plain_definition(std::string_view definition) {
+    // The engine takes this mark for a blank.
+    if (definition.find("\xef\xbb\xbf") != std::string_view::npos) {
+        return false;
+    }
+    Pieces pieces{.text = definition, .passes_comments = true};
+    if (pieces.peek().empty()) {
+        return true;
+    }
+    if (!pieces.take_word("CREATE")) {
+        return false;
+    }
+    const bool unique = pieces.take_word("UNIQUE");
+    if (pieces.take_word("INDEX")) {
+        return is_plain_index(pieces);
+    }
+    return !unique && (pieces.take_word("TRIGGER") || (pieces.take_word("TABLE") && is_plain_table(pieces)));
+}
 
 std::vector<std::string> split_alter(std::string_view statement) {
     Pieces pieces{statement};
@@ -143,8 +220,7 @@ std::optional<std::string> keys_statement(std::string_view select) {
 bool has_comment(std::string_view statement) {
     Pieces pieces{statement};
     while (!pieces.peek().empty()) {
-        const auto from_here = statement.substr(pieces.at, 2);
-        if (from_here == "--" || from_here == "/*") {
+        if (pieces.comment_length() > 0) {
             return true;
         }
         pieces.take();

@@ -9,6 +9,13 @@
 /// They look only as far as they must; what is wrong with a statement the engine tells itself.
 namespace gullymark::platform {
 
+/// True for a definition of the file's schema that may stand in a project file: a table or an index of plain columns,
+/// or a trigger, which never runs. Not for a view, a virtual table, a table without keys of its own, a column that
+/// hides them ("rowid"), or anything that the engine computes or deletes with: generated columns, checks, default
+/// formulas, other orders of texts, rules for conflicts, indexes on formulas or on some rows. Comments are passed over.
+/// An empty text, as the engine's own indexes have it, is plain.
+bool is_plain_definition(std::string_view definition);
+
 /// "ALTER TABLE t ADD a TEXT(3), b TEXT(10)" as one statement for each column, in order: the engine adds one at a
 /// time. Any other statement comes back as it is.
 std::vector<std::string> split_alter(std::string_view statement);

@@ -8,16 +8,10 @@
 #include "platform/database_sqlite.h"
 #include "platform/database_statements.h"
 #include "platform/failure.h"
+#include "platform/stored_row.h"
 
 namespace gullymark::platform {
 namespace {
-
-/// What a statement's list stands for: the names that the row set shows, and the columns of the table behind them.
-struct Source {
-    std::string table;
-    std::vector<std::string> columns;
-    std::vector<std::string> names;
-};
 
 Source read_source(sqlite3* file, const std::string& statement) {
     const Statement select(file, statement);
@@ -38,20 +32,6 @@ Source read_source(sqlite3* file, const std::string& statement) {
     return source;
 }
 
-/// The quoted names, each with `after` behind it, joined by commas.
-std::string joined(const std::vector<std::string>& columns, std::string_view after = "") {
-    std::string text;
-    for (const auto& column : columns) {
-        text.append(text.empty() ? "" : ",").append(quoted_name(column)).append(after);
-    }
-    return text;
-}
-
-/// One more condition: the column has the text of a parameter, whatever its kind in a file from elsewhere.
-std::string as_text_is_parameter(const std::string& column) {
-    return " AND CAST(" + quoted_name(column) + " AS TEXT) IS ?";
-}
-
 }  // namespace
 
 /// The position counts from 0; -1 is before the first row and the number of rows behind the last.
@@ -63,6 +43,10 @@ struct RowSet::State {
     std::int64_t position = 0;
     bool adding = false;
     std::optional<Row> loaded;  // the current row as it was read
+    /// What failed saves of the current row tried to store, and under which key. Any of them may have taken effect: the
+    /// engine also fails when the row is stored and only the end of the save could not be made durable. So a save that
+    /// is tried again begins with undoing them; the texts tell whether there is anything to undo.
+    std::vector<std::pair<std::int64_t, Row>> attempts;
 
     [[nodiscard]] sqlite3* file() const {
         if (handle->file == nullptr) {
@@ -83,8 +67,6 @@ struct RowSet::State {
     [[nodiscard]] Row read(std::int64_t key) const;
     const Row& load();
     void insert(const Row& values);
-    /// Only over what was loaded: another program may have stored another text meanwhile, or deleted the row and
-    /// given its key to a new one, which the first column tells apart.
     void update(const Row& values);
 };
 
@@ -109,6 +91,7 @@ void RowSet::State::go(std::int64_t to) {
     position = std::clamp<std::int64_t>(to, -1, count());
     adding = false;
     loaded.reset();
+    attempts.clear();
 }
 
 std::int64_t RowSet::State::current_key() const {
@@ -127,17 +110,11 @@ std::size_t RowSet::State::index_of(std::string_view column) const {
 }
 
 Row RowSet::State::read(std::int64_t key) const {
-    Statement query(file(), "SELECT " + joined(source.columns) + " FROM " + quoted_name(source.table) +
-                                " WHERE rowid = ?1");
-    query.bind(1, key);
-    if (!query.step()) {
+    auto row = read_row(file(), source, key);
+    if (!row) {
         throw Failure("the row is no longer in the file");
     }
-    Row row(source.columns.size());
-    for (std::size_t column = 0; column < row.size(); ++column) {
-        row[column] = query.text(static_cast<int>(column));
-    }
-    return row;
+    return *std::move(row);
 }
 
 const Row& RowSet::State::load() {
@@ -148,24 +125,25 @@ const Row& RowSet::State::load() {
 }
 
 void RowSet::State::insert(const Row& values) {
-    std::vector<std::string> columns;
-    std::string parameters;
-    for (std::size_t column = 0; column < values.size(); ++column) {
-        if (values[column]) {
-            columns.push_back(source.columns[column]);
-            parameters += parameters.empty() ? "?" : ",?";
+    sqlite3_set_last_insert_rowid(file(), 0);
+    try {
+        if (attempts.empty()) {
+            insert_row(file(), source, values);
+        } else {
+            Transaction again(file());
+            std::optional<std::int64_t> key;
+            for (const auto& [attempted, stored] : attempts) {
+                key = delete_row(file(), source, attempted, stored) ? attempted : key;
+            }
+            insert_row(file(), source, values, key);
+            again.commit();
         }
-    }
-    const std::string list =
-        columns.empty() ? " DEFAULT VALUES" : " (" + joined(columns) + ") VALUES (" + parameters + ")";
-    Statement statement(file(), "INSERT INTO " + quoted_name(source.table) + list);
-    int parameter = 0;
-    for (const auto& value : values) {
-        if (value) {
-            statement.bind(++parameter, value);
+    } catch (const Failure&) {
+        if (const auto key = sqlite3_last_insert_rowid(file()); key != 0) {
+            attempts.emplace_back(key, values);
         }
+        throw;
     }
-    statement.run();
     change_keys([&](Keys& own) { own.push_back(sqlite3_last_insert_rowid(file())); });
     go(count() - 1);
 }
@@ -173,37 +151,28 @@ void RowSet::State::insert(const Row& values) {
 void RowSet::State::update(const Row& values) {
     const auto key = current_key();
     const Row& old = load();
-    std::vector<std::string> columns;
-    std::vector<std::size_t> changed;
-    std::string as_loaded = as_text_is_parameter(source.columns.front());
-    for (std::size_t column = 0; column < values.size(); ++column) {
-        if (values[column] != old[column]) {
-            columns.push_back(source.columns[column]);
-            changed.push_back(column);
-            as_loaded += as_text_is_parameter(source.columns[column]);
+    bool replaced = false;
+    try {
+        if (attempts.empty()) {
+            replaced = replace_row(file(), source, key, old, values);
+        } else {
+            Transaction again(file());
+            for (const auto& [attempted, stored] : attempts) {
+                static_cast<void>(replace_row(file(), source, attempted, stored, old));
+            }
+            replaced = replace_row(file(), source, key, old, values);
+            again.commit();
         }
+    } catch (const Failure&) {
+        attempts.emplace_back(key, values);
+        throw;
     }
-    if (changed.empty()) {
-        static_cast<void>(read(key));  // nothing to write, but only a row that is there counts as stored
-        return;
-    }
-    Statement statement(file(), "UPDATE " + quoted_name(source.table) + " SET " + joined(columns, "=?") +
-                                    " WHERE rowid = ?" + as_loaded);
-    int parameter = 0;
-    for (const auto column : changed) {
-        statement.bind(++parameter, values[column]);
-    }
-    statement.bind(++parameter, key);
-    statement.bind(++parameter, old.front());
-    for (const auto column : changed) {
-        statement.bind(++parameter, old[column]);
-    }
-    statement.run();
-    if (sqlite3_changes(file()) != 1) {
+    if (!replaced) {
         static_cast<void>(read(key));
         throw Failure("the row was changed by another program");
     }
     loaded = values;
+    attempts.clear();
 }
 
 RowSet::RowSet() = default;

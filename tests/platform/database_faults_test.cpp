@@ -53,7 +53,8 @@ TEST_F(DatabaseFaultsTest, AMissingFileIsNotMade) {
 }
 
 TEST_F(DatabaseFaultsTest, AFolderIsNoFile) {
-    EXPECT_EQ(open_failure(folder.path()), "unable to open database file - " + folder.path());
+    EXPECT_EQ(open_failure(folder.path()),
+              "unable to open database file: it is not an ordinary file - " + folder.path());
 }
 
 TEST_F(DatabaseFaultsTest, AnEmptyPathIsNoFile) {

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+#include "platform/database_sqlite.h"
+
+/// A project file from its path to an open handle.
+namespace gullymark::platform {
+
+/// Opens what `look_at_project` let pass and looks into its schema: another program's, and one with what no project has
+/// (views, virtual tables, tables and indexes that compute something), is a failure. What an open that fails finds, it
+/// leaves as it is, byte for byte, beside the file too: where the engine would change the file, all is tried on a copy
+/// first.
+void open_project(DatabaseHandle& handle, const std::string& path);
+
+/// What a reading of the whole file finds.
+enum class Soundness { sound, damaged, unknown, endless };
+
+/// `unknown` for a file that cannot be looked at now, since another program saves into it or the memory is used up;
+/// `endless` where the time for one statement is used up.
+Soundness examine(sqlite3* file);
+
+}  // namespace gullymark::platform
