@@ -41,9 +41,9 @@ struct Stage {
             return office.path("sheet" + std::to_string(++sheets) + ".xls");
         };
         const auto open = platform::spreadsheet.open;
-        platform::spreadsheet.open = [open](const std::string& path, platform::SheetChoice sheet) {
+        platform::spreadsheet.open = [open](const platform::SheetFile& file) {
             try {
-                return open(path, sheet);
+                return open(file);
             } catch (const std::exception& failure) {
                 std::cerr << "nothing is shown: " << failure.what() << '\n';
                 throw;

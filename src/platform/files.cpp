@@ -147,6 +147,8 @@ mode_t permissions_of_copy(const std::string& target, const struct stat& source)
             fail(errno, target);
         }
         old = source;
+    } else if (old.st_dev == source.st_dev && old.st_ino == source.st_ino) {
+        throw Failure("They are the same file: " + target);
     }
     check_kind(old.st_mode, target);
     return (old.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO)) | S_IWUSR;

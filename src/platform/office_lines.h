@@ -13,11 +13,15 @@
 /// The program asks, and reads the answer to the last line before it asks on:
 ///
 ///     limit   SECONDS                       how long the answer to `open` or `show` may take (30)
-///     open    PATH  first|active            open a workbook, unseen, at its first sheet or the one it opens with
+///     open    PATH  first|active  TEMPLATE  open a workbook, unseen, at its first sheet or the one it opens with; where
+///                                           PATH is empty, open already, or opened by another user, a new one without
+///                                           a name, of the content of TEMPLATE if that is given
 ///     number  ROW COLUMN NUMBER             to be put into a cell; nothing is written before `show`
 ///     text    ROW COLUMN TEXT               the same
 ///     date    ROW COLUMN YEAR MONTH DAY     the same
 ///     empty   ROW COLUMN                    the same: the cell is emptied
+///     keep    FIRST LAST                    no page ends between these rows
+///     freeze  ROWS COLUMNS                  as many stay in sight while the rest scrolls
 ///     show                                  write all cells, then show the workbook to the user
 ///
 /// An end of the questions before `show` closes the workbook, and the office too where it was started for it.
@@ -36,6 +40,7 @@
 ///     profile FOLDER                        use an office with a profile and a pipe of its own
 ///     headless                              start the office without windows
 ///     save    PATH                          after `show`: save the workbook as .xls; the answer is `done`
+///     keep_name                             after `show`: save the workbook under its own name, as a user does
 ///     close                                 after `show`: close the workbook; the answer is `done`
 namespace gullymark::platform {
 

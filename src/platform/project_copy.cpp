@@ -7,10 +7,14 @@
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
+#include <span>
 #include <string>
+#include <string_view>
 #include <system_error>
+#include <vector>
 
 #include "platform/database.h"
+#include "platform/database_sqlite.h"
 #include "platform/failure.h"
 #include "platform/files.h"
 
@@ -41,6 +45,20 @@ bool is_spent(const std::string& journal) {
     return std::filesystem::is_regular_file(std::filesystem::symlink_status(journal, error)) &&
            (std::filesystem::file_size(journal, error) == 0 ||
             std::ifstream(journal, std::ios::binary).get() == 0);
+}
+
+/// By the mark in the header of a project file. What cannot be read may be one.
+bool is_project(const std::string& path) {
+    std::array<char, 72> header{};
+    std::ifstream file(path, std::ios::binary);
+    file.read(header.data(), header.size());
+    const bool read =
+        file.gcount() == static_cast<std::streamsize>(header.size()) || (file.eof() && !file.bad());
+    std::int64_t mark = 0;
+    for (const char byte : std::span(header).last(4)) {
+        mark = mark * 256 + static_cast<unsigned char>(byte);
+    }
+    return !read || mark == project_application_id;
 }
 
 /// Makes the old project whole, and locks it for as long as `old` is open. The reason when it cannot be opened, which
@@ -78,6 +96,22 @@ void make_way(Connection& old, const std::string& path) {
 }
 
 }  // namespace
+
+void refuse_project(const std::string& path) {
+    std::error_code error;
+    const auto canonical = std::filesystem::weakly_canonical(path, error).string();
+    std::vector<std::string> files{error ? path : canonical};
+    for (const std::string_view ending : journal_endings) {
+        if (files[0].ends_with(ending)) {
+            files.push_back(files[0].substr(0, files[0].size() - ending.size()));
+        }
+    }
+    for (const std::string& file : files) {
+        if (std::filesystem::is_regular_file(file, error) && is_project(file)) {
+            throw Failure("This is a project file: " + path);
+        }
+    }
+}
 
 void copy_project(const std::string& source, const std::string& path) {
     Connection old;

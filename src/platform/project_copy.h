@@ -2,7 +2,7 @@
 
 #include <string>
 
-/// A project file put in the place of another.
+/// What replaces a file and a project: a project by another one, and a project by nothing else.
 namespace gullymark::platform {
 
 /// Copies the project file `source` onto `path`, overwriting what is there. The engine undoes a save that was cut short
@@ -12,5 +12,9 @@ namespace gullymark::platform {
 /// Throws Failure; `path` is then as it was, but for a cut save that was undone. That is also so when the old project is
 /// being changed, or has a journal that cannot be undone.
 void copy_project(const std::string& source, const std::string& path);
+
+/// Throws Failure when `path` leads to a project file, by whatever name or link, or to what belongs to one (its journal),
+/// and when that cannot be told since the file cannot be read.
+void refuse_project(const std::string& path);
 
 }  // namespace gullymark::platform

@@ -52,7 +52,7 @@ std::optional<double> number_of(const CellValue& value) {
 }  // namespace
 
 void Sheet::write(CellPosition cell, std::string_view text) {
-    CellValue& value = cell_at(written_, cell);
+    CellValue& value = cell_at(filling_.cells, cell);
     if (text.empty()) {
         value = std::monostate();
     } else if (is_plain_decimal(text) && !is_text_cell(cell)) {
@@ -63,15 +63,15 @@ void Sheet::write(CellPosition cell, std::string_view text) {
 }
 
 void Sheet::write(CellPosition cell, double number) {
-    cell_at(written_, cell) = number;
+    cell_at(filling_.cells, cell) = number;
 }
 
 void Sheet::write(CellPosition cell, Date date) {
-    cell_at(written_, cell) = date;
+    cell_at(filling_.cells, cell) = date;
 }
 
 CellValue Sheet::read(CellPosition cell) const {
-    if (const auto found = written_.find(cell); found != written_.end()) {
+    if (const auto found = filling_.cells.find(cell); found != filling_.cells.end()) {
         return found->second;
     }
     const auto found = content_.cells.find(cell);

@@ -25,6 +25,11 @@ struct CellRange {
     CellPosition last;
 };
 
+struct RowRange {
+    int first = 1;
+    int last = 1;
+};
+
 using Date = std::chrono::year_month_day;
 
 /// What a cell holds: nothing, a text, a number or a date.
@@ -36,6 +41,13 @@ using Cells = std::map<CellPosition, CellValue>;
 struct SheetContent {
     Cells cells;
     std::vector<CellRange> text_cells;  // the cells whose number format is text; they may overlap
+};
+
+/// What is handed over of a filled sheet: the cells written, row by row (nothing in a cell means that it was cleared),
+/// and the rows that shall not part at the end of a page.
+struct Filling {
+    Cells cells;
+    std::vector<RowRange> kept_rows;
 };
 
 /// The rule of writing a text, whatever the locale: an empty text clears the cell; a plain decimal number becomes a
@@ -62,14 +74,16 @@ class Sheet {
     /// What was written last, or else what the workbook holds.
     [[nodiscard]] CellValue read(CellPosition cell) const;
 
-    /// The cells written, row by row; nothing in a cell means that it was cleared.
-    [[nodiscard]] const Cells& written() const { return written_; }
+    /// No page ends between these rows.
+    void keep_together(RowRange rows) { filling_.kept_rows.push_back(rows); }
+
+    [[nodiscard]] const Filling& filling() const { return filling_; }
 
   private:
     [[nodiscard]] bool is_text_cell(CellPosition cell) const;
 
     SheetContent content_;
-    Cells written_;
+    Filling filling_;
 };
 
 /// A cell's value as a number: nothing is 0, a text counts by the grammar of a number; any other text, and a date,

@@ -6,18 +6,18 @@ namespace gullymark::platform {
 
 Spreadsheet spreadsheet;
 
-Sheet open_sheet(const std::string& path, SheetChoice sheet) {
+Sheet open_sheet(const SheetFile& file) {
     if (!spreadsheet.open) {
         throw Failure("No spreadsheet program is installed.");
     }
-    return Sheet(spreadsheet.open(path, sheet));
+    return Sheet(spreadsheet.open(file));
 }
 
-void hand_over(const std::string& path, SheetChoice sheet, const Sheet& filled) {
+void hand_over(const SheetFile& file, const Sheet& filled) {
     if (!spreadsheet.hand_over) {
         throw Failure("No spreadsheet program is installed.");
     }
-    spreadsheet.hand_over(path, sheet, filled.written());
+    spreadsheet.hand_over(file, filled.filling());
 }
 
 }  // namespace gullymark::platform

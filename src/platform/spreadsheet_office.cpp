@@ -26,6 +26,7 @@ using Clock = std::chrono::steady_clock;
 using Fields = std::vector<std::string>;
 
 constexpr std::chrono::seconds patience_with_helpers{5};
+constexpr std::chrono::seconds patience_after_showing{1};
 constexpr std::chrono::seconds patience_beyond_limit{2};  // the small program keeps the limit itself
 constexpr int pause_between_paints = 20;                  // milliseconds
 
@@ -34,7 +35,7 @@ struct Talk {
     OfficeSettings settings;
     int connection = -1;
     std::string heard;  // what has come and has no end of line yet
-    std::string path;
+    SheetFile file;
     std::vector<pid_t> helpers;  // started and not yet seen to have ended
 
     ~Talk();
@@ -75,8 +76,8 @@ pid_t spawn(const std::string& program, int connection) {
 
 // An earlier helper may be ending the office that the next one would talk to. Waits for it, but not for one that
 // waits for the office itself.
-void let_helpers_end() {
-    const Clock::time_point until = Clock::now() + patience_with_helpers;
+void let_helpers_end(std::chrono::seconds patience) {
+    const Clock::time_point until = Clock::now() + patience;
     std::erase_if(talk.helpers, [&](pid_t helper) {
         while (waitpid(helper, nullptr, WNOHANG) == 0) {
             if (Clock::now() > until) {
@@ -91,7 +92,7 @@ void let_helpers_end() {
 
 void start_talk() {
     hang_up();
-    let_helpers_end();
+    let_helpers_end(patience_with_helpers);
     if (!file_exists(talk.settings.program)) {
         throw Failure("No spreadsheet program can be reached.");
     }
@@ -175,7 +176,15 @@ SheetContent ask_for(const std::string& answer, const std::string& lines) {
     }
 }
 
-SheetContent open_in_office(const std::string& path, SheetChoice sheet) {
+Fields open_question(const SheetFile& file) {
+    Fields question = {"open", file.path, file.sheet == SheetChoice::first ? "first" : "active"};
+    if (!file.template_path.empty()) {
+        question.push_back(file.template_path);
+    }
+    return question;
+}
+
+SheetContent open_in_office(const SheetFile& file) {
     start_talk();
     std::string lines;
     for (const Fields& question : talk.settings.first_questions) {
@@ -183,20 +192,33 @@ SheetContent open_in_office(const std::string& path, SheetChoice sheet) {
     }
     const double seconds = std::chrono::duration<double>(talk.settings.limit).count();
     lines += join_line({"limit", number_text(seconds)});
-    lines += join_line({"open", path, sheet == SheetChoice::first ? "first" : "active"});
-    talk.path = path;
+    lines += join_line(open_question(file));
+    talk.file = file;
     return ask_for("opened", lines);
 }
 
-void hand_over_to_office(const std::string& path, SheetChoice /*the one opened*/, const Cells& cells) {
-    if (talk.connection < 0 || talk.path != path) {
+std::string filling_lines(const SheetFile& file, const Filling& filling) {
+    std::string lines = cell_lines(filling.cells);
+    for (const RowRange& rows : filling.kept_rows) {
+        lines += join_line({"keep", std::to_string(rows.first), std::to_string(rows.last)});
+    }
+    if (file.frozen_rows > 0 || file.frozen_columns > 0) {
+        lines += join_line({"freeze", std::to_string(file.frozen_rows), std::to_string(file.frozen_columns)});
+    }
+    return lines;
+}
+
+void hand_over_to_office(const SheetFile& file, const Filling& filling) {
+    if (talk.connection < 0 || talk.file != file) {
         throw Failure("The workbook is not open.");
     }
-    ask_for("shown", cell_lines(cells) + join_line({"show"}));
+    ask_for("shown", filling_lines(file, filling) + join_line({"show"}));
     for (const Fields& question : talk.settings.last_questions) {
         ask_for("done", join_line(question));
     }
     hang_up();
+    let_helpers_end(
+        patience_after_showing);  // it has nothing left to do, and shall not stay as a dead process
 }
 
 }  // namespace

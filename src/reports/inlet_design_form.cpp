@@ -19,14 +19,16 @@ namespace words = engine::words;
 using enum engine::Column;
 using store::ProjectSession;
 
+constexpr int first_row = 15;
+
 constexpr ReportFile report = {
     .template_name = "INLETDESIGNFORMAL.xlr",
     .filter = "Inlet Design Form files (*.xls)|*.xls",
     .title = "Enter New File Name for Inlet Design Form",
     .sheet = platform::SheetChoice::active,
+    .frozen_rows = first_row - 1,
+    .frozen_columns = 2,  // the inlet's number
 };
-
-constexpr int first_row = 15;
 
 bool in_sump(const engine::InletRecord& inlet) {
     return inlet.text(INLET_LOCATION) == words::sump;
@@ -185,6 +187,9 @@ int write_inlet(platform::Sheet& sheet, int row, const engine::InletRecord& inle
         write_cells(sheet, base, total_on_grade, inlet);
     }
     write_cells(sheet, base, data_and_results, inlet);
+    if (sump) {
+        sheet.keep_together({row, row + 2});
+    }
     return sump ? 3 : 1;
 }
 

@@ -3,6 +3,7 @@
 #include "platform/file_dialog.h"
 #include "platform/files.h"
 #include "platform/outside.h"
+#include "platform/project_copy.h"
 #include "reports/cell_steps.h"
 #include "store/project_session.h"
 
@@ -30,14 +31,22 @@ std::optional<std::string> choose_target(const ReportFile& report) {
 
 void fill_copy_of_template(const ReportFile& report, const std::string& target,
                            const std::function<void(platform::Sheet&)>& fill) {
+    platform::SheetFile file{
+        .path = "",
+        .sheet = report.sheet,
+        .template_path = platform::join_path(platform::program_folder(), report.template_name),
+        .frozen_rows = report.frozen_rows,
+        .frozen_columns = report.frozen_columns};
     attempt([&] {
-        platform::copy_file(platform::join_path(platform::program_folder(), report.template_name), target);
+        platform::refuse_project(target);
+        platform::copy_file(file.template_path, target);
+        file.path = target;
     });
     platform::show_wait_pointer(true);
     attempt([&] {
-        platform::Sheet sheet = platform::open_sheet(target, report.sheet);
+        platform::Sheet sheet = platform::open_sheet(file);
         fill(sheet);
-        platform::hand_over(target, report.sheet, sheet);
+        platform::hand_over(file, sheet);
     });
     platform::show_wait_pointer(false);
 }

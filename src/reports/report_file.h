@@ -14,14 +14,17 @@ struct ReportFile {
     const char* filter;         // of the file dialog
     const char* title;          // of the file dialog
     platform::SheetChoice sheet;
+    int frozen_rows = 0;  // stay in sight while the rest scrolls
+    int frozen_columns = 0;
 };
 
 /// Asks for the report's path. Nothing when the user gave none, which a warning tells, or keeps a file that exists.
 std::optional<std::string> choose_target(const ReportFile& report);
 
 /// Copies the template onto `target`, overwriting, opens it in the spreadsheet application, has `fill` write its
-/// cells, and shows it; under the wait pointer from the copy on. Where the application cannot open the file, or is
-/// not there, nothing is filled or shown.
+/// cells, and shows it; under the wait pointer from the copy on. Where the copy fails, `target` is a project, or it is
+/// open already, `fill` writes into a new workbook without a name: what an old report holds is never filled. Without a
+/// spreadsheet application, or without the template, nothing is filled or shown.
 void fill_copy_of_template(const ReportFile& report, const std::string& target,
                            const std::function<void(platform::Sheet&)>& fill);
 

@@ -8,8 +8,9 @@
 /// fills the copy and leaves it open and unsaved in the user's spreadsheet application; the file itself stays a bare
 /// copy of the template until the user saves it there.
 ///
-/// Failures are ignored step by step: a cell whose value cannot be had stays as the template has it, and without a
-/// spreadsheet application the copy is made and nothing is shown.
+/// Failures are ignored step by step: a cell whose value cannot be had stays as the template has it; where the copy cannot
+/// be made the sheet is filled all the same, as a new workbook without a name; and without a spreadsheet application the
+/// copy is made and nothing is shown.
 namespace gullymark::reports {
 
 /// Print Report: the one inlet that is current in the editor. `inlet_count` is the number of rows in the workspace's

@@ -96,6 +96,14 @@ TEST_F(CopyFile, RefusesADevice) {
     EXPECT_EQ(failure_text([&] { copy_file("/dev/zero", target); }), "This is no ordinary file: /dev/zero");
 }
 
+TEST_F(CopyFile, RefusesToReplaceItsSource) {
+    const std::string link = folder.path("link");
+    fs::create_symlink(source, link);
+    EXPECT_EQ(failure_text([&] { copy_file(source, source); }), "They are the same file: " + source);
+    EXPECT_EQ(failure_text([&] { copy_file(source, link); }), "They are the same file: " + link);
+    EXPECT_EQ(read_file(source), "new");
+}
+
 TEST_F(CopyFile, TakesTheLongestNameThatThereIs) {
     const std::string long_target = folder.path(std::string(255, 't'));
     copy_file(source, long_target);

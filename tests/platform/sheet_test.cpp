@@ -72,14 +72,14 @@ TEST(Sheet, AnUnwrittenCellIsWhatTheWorkbookHolds) {
     EXPECT_EQ(sheet.read(a1), CellValue("LABEL"s));
     EXPECT_EQ(sheet.read({1, 2}), CellValue(4.5));
     EXPECT_EQ(sheet.read({2, 1}), nothing);
-    EXPECT_TRUE(sheet.written().empty());
+    EXPECT_TRUE(sheet.filling().cells.empty());
 }
 
 TEST(Sheet, AnEmptyTextClearsACell) {
     Sheet sheet({.cells = {{a1, "old"s}}});
     sheet.write(a1, "");
     EXPECT_EQ(sheet.read(a1), nothing);
-    EXPECT_EQ(sheet.written(), (Cells{{a1, nothing}}));
+    EXPECT_EQ(sheet.filling().cells, (Cells{{a1, nothing}}));
 }
 
 TEST(Sheet, NumbersAndDatesAreWrittenWhateverTheFormat) {
@@ -98,7 +98,7 @@ TEST(Sheet, ACellBeyondTheLastRowOrColumnIsAFailure) {
         EXPECT_THROW(sheet.write(cell, "x"), Failure);
         EXPECT_THROW(sheet.write(cell, 1.0), Failure);
     }
-    EXPECT_EQ(sheet.written().size(), 1U);
+    EXPECT_EQ(sheet.filling().cells.size(), 1U);
 }
 
 TEST(NumberInACell, NothingIsZeroAndANumericTextCounts) {
@@ -134,27 +134,30 @@ TEST(CellOrder, NumbersCompareAsNumbersAndTextsComeBehindThem) {
 
 TEST(Spreadsheet, WhereNoneIsInstalledEveryCallIsAFailure) {
     spreadsheet = {};
-    EXPECT_THROW((void)open_sheet("a.xls", SheetChoice::first), Failure);
-    EXPECT_THROW(hand_over("a.xls", SheetChoice::first, Sheet()), Failure);
+    EXPECT_THROW((void)open_sheet({.path = "a.xls"}), Failure);
+    EXPECT_THROW(hand_over({.path = "a.xls"}, Sheet()), Failure);
 }
 
 TEST(Spreadsheet, WhatWasWrittenIsHandedOver) {
-    spreadsheet.open = [](const std::string& path, SheetChoice choice) {
-        EXPECT_EQ(path, "a.xls");
-        EXPECT_EQ(choice, SheetChoice::active);
+    const SheetFile asked{.path = "a.xls", .sheet = SheetChoice::active};
+    spreadsheet.open = [&](const SheetFile& file) {
+        EXPECT_EQ(file, asked);
         return SheetContent{.cells = {{a1, "LABEL"s}}};
     };
-    Cells handed_over;
-    spreadsheet.hand_over = [&](const std::string& path, SheetChoice choice, const Cells& cells) {
-        EXPECT_EQ(path, "a.xls");
-        EXPECT_EQ(choice, SheetChoice::active);
-        handed_over = cells;
+    Filling handed_over;
+    spreadsheet.hand_over = [&](const SheetFile& file, const Filling& filling) {
+        EXPECT_EQ(file, asked);
+        handed_over = filling;
     };
-    Sheet sheet = open_sheet("a.xls", SheetChoice::active);
+    Sheet sheet = open_sheet(asked);
     EXPECT_EQ(sheet.read(a1), CellValue("LABEL"s));
     sheet.write({2, 2}, "5");
-    hand_over("a.xls", SheetChoice::active, sheet);
-    EXPECT_EQ(handed_over, (Cells{{{2, 2}, 5.0}}));
+    sheet.keep_together({2, 4});
+    hand_over(asked, sheet);
+    EXPECT_EQ(handed_over.cells, (Cells{{{2, 2}, 5.0}}));
+    ASSERT_EQ(handed_over.kept_rows.size(), 1U);
+    EXPECT_EQ(handed_over.kept_rows[0].first, 2);
+    EXPECT_EQ(handed_over.kept_rows[0].last, 4);
     spreadsheet = {};
 }
 

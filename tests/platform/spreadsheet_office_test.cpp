@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -41,7 +43,7 @@ class SpreadsheetOffice : public testing::Test {
     }
 
     static std::string failure_of_opening() {
-        return failure_text([] { static_cast<void>(open_sheet("a.xls", SheetChoice::first)); });
+        return failure_text([] { static_cast<void>(open_sheet({.path = "a.xls"})); });
     }
 
     std::filesystem::path folder_;
@@ -84,7 +86,7 @@ TEST_F(SpreadsheetOffice, WhatItFailedWithIsTheFailure) {
 TEST_F(SpreadsheetOffice, TheSheetChosenIsAskedForAndItsContentComes) {
     play(R"(read limit; read open; printf 'text\t1\t2\t%s\nformatted_as_text\t3\t3\t4\t4\nopened\n' "$open"
 cat >/dev/null)");
-    Sheet sheet = open_sheet("a.xls", SheetChoice::active);
+    Sheet sheet = open_sheet({.path = "a.xls", .sheet = SheetChoice::active});
     EXPECT_EQ(sheet.read({1, 2}), CellValue("open"));
     sheet.write({4, 4}, "12");
     EXPECT_EQ(sheet.read({4, 4}), CellValue("12"));
@@ -94,39 +96,60 @@ TEST_F(SpreadsheetOffice, TheCellsWrittenAreHandedOverAndThenShown) {
     const std::string said = folder_ / "said";
     play("while IFS= read -r line; do echo \"$line\" >>" + said +
          "; case $line in open*) echo opened;; show) echo shown; esac; done");
-    Sheet sheet = open_sheet("a.xls", SheetChoice::first);
+    Sheet sheet = open_sheet({.path = "a.xls"});
     sheet.write({2, 1}, 0.1);
     sheet.write({1, 2}, "1/2");
     sheet.write({1, 3}, "");
-    hand_over("a.xls", SheetChoice::first, sheet);
+    hand_over({.path = "a.xls"}, sheet);
     std::ifstream file(said);
     EXPECT_EQ((std::string{std::istreambuf_iterator<char>(file), {}}),
               "limit\t10\nopen\ta.xls\tfirst\ntext\t1\t2\t1/2\nempty\t1\t3\nnumber\t2\t1\t0.1\nshow\n");
 }
 
+TEST_F(SpreadsheetOffice, TheTemplateAndHowTheSheetIsShownAreHandedOver) {
+    const std::string said = folder_ / "said";
+    play("while IFS= read -r line; do echo \"$line\" >>" + said +
+         "; case $line in open*) echo opened;; show) echo shown; esac; done");
+    const SheetFile file{.path = "", .template_path = "a.xlr", .frozen_rows = 14, .frozen_columns = 2};
+    Sheet sheet = open_sheet(file);
+    sheet.keep_together({15, 17});
+    hand_over(file, sheet);
+    std::ifstream lines(said);
+    EXPECT_EQ((std::string{std::istreambuf_iterator<char>(lines), {}}),
+              "limit\t10\nopen\t\tfirst\ta.xlr\nkeep\t15\t17\nfreeze\t14\t2\nshow\n");
+}
+
+TEST_F(SpreadsheetOffice, NoDeadProcessStaysOnceTheWorkbookIsShown) {
+    play(
+        "while IFS= read -r line; do case $line in open*) echo opened;; show) echo shown; esac; done; sleep "
+        "0.2");
+    Sheet sheet = open_sheet({.path = "a.xls"});
+    hand_over({.path = "a.xls"}, sheet);
+    EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "there is a child process";
+    EXPECT_EQ(errno, ECHILD);
+}
+
 TEST_F(SpreadsheetOffice, NothingCanBeHandedOverThatIsNotOpen) {
     play("echo opened; echo shown; cat >/dev/null");
-    Sheet sheet = open_sheet("a.xls", SheetChoice::first);
-    EXPECT_EQ(failure_text([&] { hand_over("b.xls", SheetChoice::first, sheet); }),
-              "The workbook is not open.");
-    hand_over("a.xls", SheetChoice::first, sheet);
-    EXPECT_EQ(failure_text([&] { hand_over("a.xls", SheetChoice::first, sheet); }),
-              "The workbook is not open.");
+    Sheet sheet = open_sheet({.path = "a.xls"});
+    EXPECT_EQ(failure_text([&] { hand_over({.path = "b.xls"}, sheet); }), "The workbook is not open.");
+    hand_over({.path = "a.xls"}, sheet);
+    EXPECT_EQ(failure_text([&] { hand_over({.path = "a.xls"}, sheet); }), "The workbook is not open.");
 }
 
 TEST_F(SpreadsheetOffice, WindowsArePaintedWhileItWaits) {
     play("sleep 0.3; echo opened; cat >/dev/null");
     int painted = 0;
     outside.keep_painting = [&] { ++painted; };
-    static_cast<void>(open_sheet("a.xls", SheetChoice::first));
+    static_cast<void>(open_sheet({.path = "a.xls"}));
     EXPECT_GT(painted, 3);
 }
 
 TEST_F(SpreadsheetOffice, AFailureWhileHandingOverEndsTheTalk) {
     play("echo opened; sleep 0.1");
-    Sheet sheet = open_sheet("a.xls", SheetChoice::first);
+    Sheet sheet = open_sheet({.path = "a.xls"});
     sheet.write({1, 1}, std::string(1000000, 'x'));
-    EXPECT_EQ(failure_text([&] { hand_over("a.xls", SheetChoice::first, sheet); }),
+    EXPECT_EQ(failure_text([&] { hand_over({.path = "a.xls"}, sheet); }),
               "The spreadsheet program has ended.");
 }
 

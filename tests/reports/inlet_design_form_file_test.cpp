@@ -34,9 +34,41 @@ TEST_F(DesignForm, ACopyOfTheTemplateIsShownOnItsActiveSheetAndTheWorkingFolderS
     EXPECT_EQ(read_file(target), "form template");
     EXPECT_EQ(spreadsheet.opened, std::vector{target});
     EXPECT_EQ(spreadsheet.shown, std::vector{target});
-    EXPECT_EQ(spreadsheet.sheet, platform::SheetChoice::active);
+    EXPECT_EQ(spreadsheet.file.sheet, platform::SheetChoice::active);
     EXPECT_EQ(outside.wait_pointers, (std::vector{true, false}));
     EXPECT_EQ(store::session.workingDirectory, program.path());
+}
+
+TEST_F(DesignForm, ACopyThatFailsIsFilledAsANewWorkbookWithoutABox) {
+    add("1", on_grade);
+    std::filesystem::create_directory(target);
+    InletDesignForm(1);
+    EXPECT_EQ(spreadsheet.shown, std::vector{"new from " + program.path("INLETDESIGNFORMAL.xlr")});
+    EXPECT_EQ(at(15, 1), CellValue(1.0));
+    EXPECT_TRUE(outside.boxes.empty());
+}
+
+TEST_F(DesignForm, IsNeverCopiedOverTheOpenProject) {
+    add("1", on_grade);
+    outside.choices = {project};
+    outside.answers = {platform::Answer::yes};
+    InletDesignForm(1);
+    EXPECT_EQ(spreadsheet.shown, std::vector{"new from " + program.path("INLETDESIGNFORMAL.xlr")});
+    EXPECT_EQ(run_sql(project, "SELECT count(*) FROM INLET"), "1");
+    EXPECT_EQ(at(15, 1), CellValue(1.0));
+}
+
+TEST_F(DesignForm, TheRowsOfASumpStayOnOnePageAndTheHeadingInSight) {
+    add("1", on_grade);
+    add("2", in_sump);
+    add("3", in_sump);
+    InletDesignForm(3);
+    ASSERT_EQ(spreadsheet.kept_rows.size(), 2U);
+    EXPECT_EQ(spreadsheet.kept_rows[0].first, 16);
+    EXPECT_EQ(spreadsheet.kept_rows[0].last, 18);
+    EXPECT_EQ(spreadsheet.kept_rows[1].first, 19);
+    EXPECT_EQ(spreadsheet.file.frozen_rows, 14);
+    EXPECT_EQ(spreadsheet.file.frozen_columns, 2);
 }
 
 TEST_F(DesignForm, ACancelEndsWithAWarning) {
@@ -68,8 +100,8 @@ TEST_F(DesignForm, AnInletDeletedMeanwhileIsPassedOver) {
     add("1", on_grade);
     add("2", on_grade);
     add("3", on_grade);
-    platform::spreadsheet.open = [this](const std::string&, platform::SheetChoice choice) {
-        spreadsheet.sheet = choice;
+    platform::spreadsheet.open = [this](const platform::SheetFile& file) {
+        spreadsheet.file = file;
         run_sql(project, "DELETE FROM INLET WHERE INLET_NUMBER = '2'");
         return platform::SheetContent();
     };

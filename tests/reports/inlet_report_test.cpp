@@ -230,7 +230,7 @@ TEST_F(InletReport, ACopyOfTheTemplateIsOpenedFilledAndShownUnderTheWaitPointer)
     EXPECT_EQ(read_file(target), "report template");
     EXPECT_EQ(spreadsheet.opened, std::vector{target});
     EXPECT_EQ(spreadsheet.shown, std::vector{target});
-    EXPECT_EQ(spreadsheet.sheet, platform::SheetChoice::first);
+    EXPECT_EQ(spreadsheet.file.sheet, platform::SheetChoice::first);
     EXPECT_EQ(outside.wait_pointers, (std::vector{true, false}));
 }
 
@@ -278,8 +278,8 @@ TEST_F(InletReport, AfterYesTheOldReportIsABareTemplateBeforeTheSpreadsheetOpens
     write_file(target, "old report");
     outside.answers = {platform::Answer::yes};
     std::string found;
-    platform::spreadsheet.open = [&](const std::string& path, platform::SheetChoice) {
-        found = read_file(path);
+    platform::spreadsheet.open = [&](const platform::SheetFile& file) {
+        found = read_file(file.path);
         return platform::SheetContent();
     };
     inlet_report(1, {});
@@ -305,14 +305,44 @@ TEST_F(InletReport, ASpreadsheetThatFailsIsPassedOver) {
     }
 }
 
-TEST_F(InletReport, AMissingTemplateLeavesTheOldReportToBeOpened) {
+// What is never filled: an old report.
+
+TEST_F(InletReport, ACopyThatFailsIsFilledAsANewWorkbookWithoutABox) {
+    std::filesystem::create_directory(target);
+    inlet_report(1, {});
+    EXPECT_EQ(spreadsheet.shown, std::vector{"new from " + program.path("INLET_REPORTAL.xlr")});
+    EXPECT_TRUE(outside.boxes.empty());
+    EXPECT_EQ(outside.wait_pointers, (std::vector{true, false}));
+}
+
+TEST_F(InletReport, AMissingTemplateLeavesTheOldReportUnopened) {
     std::filesystem::remove(program.path("INLET_REPORTAL.xlr"));
     write_file(target, "old report");
     outside.answers = {platform::Answer::yes};
     inlet_report(1, {});
     EXPECT_EQ(read_file(target), "old report");
-    EXPECT_EQ(spreadsheet.shown, std::vector{target});
+    EXPECT_EQ(spreadsheet.opened, std::vector{"new from " + program.path("INLET_REPORTAL.xlr")});
     EXPECT_EQ(store::session.workingDirectory, user.path());
+}
+
+TEST_F(InletReport, IsNeverCopiedOverAProject) {
+    const std::string project = user.path("road.gmk");
+    platform::copy_file(GULLYMARK_TEMPLATE, project);
+    const std::string content = read_file(project);
+    write_file(project + "-journal", "what undoes a save");
+    std::filesystem::create_symlink(project, user.path("linked.xls"));
+    std::filesystem::create_hard_link(project, user.path("same.xls"));
+    std::filesystem::create_symlink(project + "-journal", user.path("undo.xls"));
+    for (const char* name : {"road.gmk", "linked.xls", "same.xls", "undo.xls"}) {
+        outside.choices = {user.path(name)};
+        outside.answers = {platform::Answer::yes};
+        spreadsheet.shown.clear();
+        inlet_report(1, {});
+        EXPECT_EQ(spreadsheet.shown, std::vector{"new from " + program.path("INLET_REPORTAL.xlr")}) << name;
+        EXPECT_EQ(read_file(project), content) << name;
+        EXPECT_EQ(read_file(project + "-journal"), "what undoes a save") << name;
+        EXPECT_TRUE(std::filesystem::equivalent(project, user.path("same.xls")));
+    }
 }
 
 TEST_F(InletReport, AFolderThatIsNotThereCountsAsNoFileName) {

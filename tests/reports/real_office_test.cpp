@@ -39,7 +39,7 @@ struct RealOfficeReports : ReportFixture {
     template <typename Report>
     [[nodiscard]] SheetContent saved_after(const Report& report) {
         write(report);
-        return platform::spreadsheet.open(saved, platform::SheetChoice::first);
+        return platform::spreadsheet.open({.path = saved});
     }
 
     /// What is to be written into a workbook of that content.
@@ -59,7 +59,7 @@ struct RealOfficeReports : ReportFixture {
     [[nodiscard]] SheetContent content_of_template(const std::string& name) const {
         const std::string copy = office->path("template.xls");
         platform::copy_file(platform::join_path(GULLYMARK_PROGRAM_FOLDER, name), copy);
-        return platform::spreadsheet.open(copy, platform::SheetChoice::active);
+        return platform::spreadsheet.open({.path = copy, .sheet = platform::SheetChoice::active});
     }
 
     template <typename Report>
@@ -244,22 +244,23 @@ TEST_F(RealOfficeForm, ATextInTheDesignFormStaysThatTextWhateverItLooksLike) {
 
 // Faults.
 
-TEST_F(RealOfficeReports, InAFolderThatCannotBeWrittenNothingIsShownAndNoOfficeStarts) {
-    office->end();
-    const std::string closed = user.path("closed");
-    std::filesystem::create_directory(closed);
-    std::filesystem::permissions(user.path(), std::filesystem::perms::all);
-    std::filesystem::permissions(
-        closed, std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec |
-                    std::filesystem::perms::others_read | std::filesystem::perms::others_exec);
-    const std::string told = testing_support::run_unprivileged([&] {
-        outside.choices = {closed + "/report.xls"};
-        inlet_report(1, {});
-        return std::to_string(outside.boxes.size()) +
-               (std::filesystem::exists(closed + "/report.xls") ? "!" : "");
-    });
-    EXPECT_EQ(told, "0");
-    EXPECT_TRUE(office->processes().empty());
+TEST_F(RealOfficeReports, OverAnOldReportThatCannotBeReplacedNothingOfItIsShown) {
+    engine::InletRecord first = full_inlet_of_kind(cell_table().columns[1]);
+    static_cast<void>(saved_after([&] { inlet_report(1, first); }));
+    std::filesystem::copy_file(saved, target, std::filesystem::copy_options::overwrite_existing);
+    // Another user has it open: the office opens nothing under that name.
+    const std::string lock = user.path(".~lock.report.xls#");
+    testing_support::write_file(lock, ",Someone,elsewhere,20.11.2025 10:00,file:///elsewhere;");
+    outside.choices = {target};
+    outside.answers = {platform::Answer::yes};
+    engine::InletRecord second;
+    second.load(Column::INLET_NUMBER, "second");
+    inlet_report(1, second);
+    std::filesystem::remove(lock);
+    const SheetContent content = platform::spreadsheet.open({.path = saved});
+    EXPECT_EQ(shown(value_at(content, {8, 2})), "second");
+    EXPECT_EQ(value_at(content, {42, 6}), nothing);
+    EXPECT_EQ(value_at(content, {38, 10}), nothing);
 }
 
 TEST_F(RealOfficeReports, WithoutItsTemplateNothingIsShownAndNoOfficeStarts) {

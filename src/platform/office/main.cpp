@@ -11,6 +11,7 @@
 #include "platform/failure.h"
 #include "platform/number_text.h"
 #include "platform/office/answers.h"
+#include "platform/office/layout.h"
 #include "platform/office/office.h"
 #include "platform/office/texts.h"
 #include "platform/office/workbook.h"
@@ -30,6 +31,8 @@ struct Bridge {
     office::Workbook workbook;
     platform::SheetContent held;   // what the opened sheet has
     platform::SheetContent asked;  // what shall be written
+    std::vector<platform::RowRange> kept_rows;
+    platform::SheetFile file;
     std::chrono::milliseconds limit = 30s;
 };
 
@@ -78,6 +81,10 @@ const std::string& field(const Fields& fields, std::size_t at) {
     return fields[at];
 }
 
+int whole_number(const Fields& fields, std::size_t at) {
+    return static_cast<int>(platform::read_number(field(fields, at)).number);
+}
+
 office::Workbook& workbook() {
     if (!bridge().workbook.sheet.is()) {
         throw platform::Failure("No workbook is open.");
@@ -87,22 +94,41 @@ office::Workbook& workbook() {
 
 void open(const Fields& fields) {
     answers().promise(bridge().limit);
-    const std::string& path = field(fields, 1);
-    if (access(path.c_str(), R_OK) != 0) {
-        throw platform::Failure("There is no file " + path + ".");
+    platform::SheetFile& file = bridge().file;
+    file.path = field(fields, 1);
+    file.sheet = field(fields, 2) == "first" ? platform::SheetChoice::first : platform::SheetChoice::active;
+    file.template_path = fields.size() > 3 ? fields[3] : "";
+    if (access(file.path.c_str(), R_OK) != 0 && access(file.template_path.c_str(), R_OK) != 0) {
+        throw platform::Failure("There is no file " + file.path + ".");
     }
-    const bool first = field(fields, 2) == "first";
     office::connect_office(bridge().office);
-    const auto choice = first ? platform::SheetChoice::first : platform::SheetChoice::active;
-    office::open_workbook(bridge().office, path, choice, bridge().workbook);
+    office::open_workbook(bridge().office, file, bridge().workbook);
     bridge().held = office::read_content(workbook());
     answer(platform::content_lines(bridge().held) + platform::join_line({"opened"}));
+}
+
+// A sheet with a heading that stays in sight is a table.
+void lay_out() {
+    const platform::SheetFile& file = bridge().file;
+    office::keep_rows_together(workbook(), bridge().kept_rows);
+    if (file.frozen_rows > 0 || file.frozen_columns > 0) {
+        office::align_decimals(workbook(), file.frozen_rows, bridge().asked.cells);
+    }
+}
+
+// The office splits a window by its size, which one that is not shown does not have.
+void freeze_heading() {
+    const platform::SheetFile& file = bridge().file;
+    if (file.frozen_rows > 0 || file.frozen_columns > 0) {
+        office::freeze(workbook(), file.frozen_rows, file.frozen_columns);
+    }
 }
 
 void show() {
     answers().promise(bridge().limit);
     office::write_cells(workbook(), bridge().asked.cells, bridge().held.cells);
-    office::show_workbook(bridge().office, workbook());
+    lay_out();
+    office::show_workbook(bridge().office, workbook(), freeze_heading);
     answer(platform::join_line({"shown"}));
 }
 
@@ -121,6 +147,14 @@ bool carry_out(const Fields& fields) {
         bridge().office.choice.headless = true;
     } else if (asked == "open") {
         open(fields);
+    } else if (asked == "keep") {
+        bridge().kept_rows.push_back({whole_number(fields, 1), whole_number(fields, 2)});
+    } else if (asked == "freeze") {
+        bridge().file.frozen_rows = whole_number(fields, 1);
+        bridge().file.frozen_columns = whole_number(fields, 2);
+    } else if (asked == "keep_name") {
+        office::save(workbook());
+        answer(platform::join_line({"done"}));
     } else if (asked == "save") {
         office::save_copy(workbook(), field(fields, 1));
         answer(platform::join_line({"done"}));

@@ -2,7 +2,6 @@
 
 #include <fcntl.h>
 #include <spawn.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -10,17 +9,18 @@
 #include <chrono>
 #include <com/sun/star/awt/XWindow2.hpp>
 #include <com/sun/star/bridge/UnoUrlResolver.hpp>
+#include <com/sun/star/bridge/XUnoUrlResolver.hpp>
 #include <com/sun/star/connection/NoConnectException.hpp>
 #include <com/sun/star/frame/Desktop.hpp>
 #include <com/sun/star/frame/XFrames.hpp>
 #include <cppuhelper/bootstrap.hxx>
 #include <csignal>
 #include <cstdlib>
-#include <functional>
 #include <thread>
 #include <vector>
 
 #include "platform/failure.h"
+#include "platform/office/pipes.h"
 #include "platform/office/texts.h"
 
 namespace gullymark::office {
@@ -37,26 +37,9 @@ constexpr auto pause_between_tries = 20ms;
 constexpr auto pause_between_starts = 4s;
 constexpr auto patience_at_end = 5s;
 
-std::string pipe_name(const OfficeChoice& choice) {
-    return choice.profile.empty()
-               ? "gullymark_office"
-               : "gullymark_office_" + std::to_string(std::hash<std::string>{}(choice.profile));
-}
-
-// Anyone can make a pipe of that name in the shared folder of pipes; only this user's own is talked to.
-void check_owner_of_pipe(const OfficeChoice& choice) {
-    const std::string name = "/OSL_PIPE_" + std::to_string(getuid()) + "_" + pipe_name(choice);
-    for (const char* folder : {"/tmp", "/var/tmp"}) {
-        struct stat found = {};
-        if (lstat((folder + name).c_str(), &found) == 0 && found.st_uid != getuid()) {
-            throw platform::Failure("The connection to the spreadsheet program belongs to another user.");
-        }
-    }
-}
-
-std::vector<std::string> start_arguments(const OfficeChoice& choice) {
+std::vector<std::string> start_arguments(const OfficeChoice& choice, const std::string& pipe) {
     std::vector<std::string> arguments = {std::string(program_folder) + "/soffice",
-                                          "--accept=pipe,name=" + pipe_name(choice) + ";urp;",
+                                          "--accept=pipe,name=" + pipe + ";urp;",
                                           "--nologo",
                                           "--norestore",
                                           "--nodefault",
@@ -71,8 +54,8 @@ std::vector<std::string> start_arguments(const OfficeChoice& choice) {
 }
 
 // In a session and process group of its own, with no tie to our streams: it lives on when we have ended.
-pid_t start_office(const OfficeChoice& choice) {
-    std::vector<std::string> arguments = start_arguments(choice);
+pid_t start_office(const OfficeChoice& choice, const std::string& pipe) {
+    std::vector<std::string> arguments = start_arguments(choice, pipe);
     std::vector<char*> pointers;
     for (std::string& argument : arguments) {
         pointers.push_back(argument.data());
@@ -120,6 +103,19 @@ bool waited_for_end(pid_t started) {
     return false;
 }
 
+// True when an office that listens there has taken us.
+bool connect_to(Office& office, const uno::Reference<com::sun::star::bridge::XUnoUrlResolver>& resolver,
+                const std::string& pipe) {
+    try {
+        const rtl::OUString address = text_of("uno:pipe,name=" + pipe + ";urp;StarOffice.ComponentContext");
+        office.context.set(resolver->resolve(address), uno::UNO_QUERY_THROW);
+        office.desktop = frame::Desktop::create(office.context);
+        return true;
+    } catch (const com::sun::star::connection::NoConnectException&) {
+        return false;  // it does not listen any more
+    }
+}
+
 bool shows_a_window(const Office& office) {
     const auto frames = office.desktop->getFrames();
     for (sal_Int32 at = 0; at < frames->getCount(); ++at) {
@@ -144,23 +140,19 @@ void connect_office(Office& office) {
     const auto local = cppu::defaultBootstrap_InitialComponentContext();
     unsetenv("URE_BOOTSTRAP");  // NOLINT(concurrency-mt-unsafe): the office shall not inherit it
     const auto resolver = com::sun::star::bridge::UnoUrlResolver::create(local);
-    const rtl::OUString address =
-        text_of("uno:pipe,name=" + pipe_name(office.choice) + ";urp;StarOffice.ComponentContext");
+    const std::string pipe = new_pipe_name(office.choice);
     Clock::time_point start_again{};  // at once
     while (true) {
-        check_owner_of_pipe(office.choice);
-        try {
-            office.context.set(resolver->resolve(address), uno::UNO_QUERY_THROW);
-            office.desktop = frame::Desktop::create(office.context);
-            return;
-        } catch (const com::sun::star::connection::NoConnectException&) {
-            // None runs, or it does not listen yet.
+        for (const std::string& listening : listening_pipes(office.choice)) {
+            if (connect_to(office, resolver, listening)) {
+                return;
+            }
         }
         if (office.started != 0 && has_ended(office.started)) {
             office.started = 0;
         }
         if (office.started == 0 && Clock::now() >= start_again) {
-            office.started = start_office(office.choice);
+            office.started = start_office(office.choice, pipe);
             start_again = Clock::now() + pause_between_starts;
         }
         std::this_thread::sleep_for(pause_between_tries);

@@ -1,5 +1,7 @@
 #include "platform/office/workbook.h"
 
+#include <unistd.h>
+
 #include <chrono>
 #include <com/sun/star/awt/XCallback.hpp>
 #include <com/sun/star/awt/XRequestCallback.hpp>
@@ -26,6 +28,8 @@
 #include <com/sun/star/util/XNumberFormatsSupplier.hpp>
 #include <condition_variable>
 #include <cppuhelper/implbase1.hxx>
+#include <filesystem>
+#include <functional>
 #include <mutex>
 #include <rtl/ref.hxx>
 
@@ -174,24 +178,53 @@ Reference<star::frame::XModel> load(const Office& office, const std::string& pat
         property("MacroExecutionMode", star::document::MacroExecMode::NEVER_EXECUTE),
         property("UpdateDocMode", star::document::UpdateDocMode::NO_UPDATE),
     });
-    const Reference<star::frame::XModel> model(
-        office.desktop->loadComponentFromURL(file_url(path), "_blank", 0, how), star::uno::UNO_QUERY);
-    if (!model.is()) {
-        throw platform::Failure("The spreadsheet program cannot open " + path + ".");
+    return {office.desktop->loadComponentFromURL(file_url(path), "_blank", 0, how), star::uno::UNO_QUERY};
+}
+
+// A second workbook of the same name would overwrite the first one's changes, or the other way round.
+bool has_open(const Office& office, const std::string& path) {
+    const auto url = file_url(std::filesystem::weakly_canonical(path).string());
+    const auto components = office.desktop->getComponents()->createEnumeration();
+    while (components->hasMoreElements()) {
+        const Reference<star::frame::XModel> model(components->nextElement(), star::uno::UNO_QUERY);
+        if (model.is() && model->getURL() == url) {
+            return true;
+        }
     }
-    return model;
+    return false;
+}
+
+// Nothing when it cannot be opened under its name; the office gives nothing for one that another user has open.
+Reference<star::frame::XModel> load_under_name(const Office& office, const std::string& path) {
+    if (path.empty() || access(path.c_str(), R_OK) != 0 || has_open(office, path)) {
+        return {};
+    }
+    Workbook workbook;
+    workbook.model = load(office, path, false);
+    // One that cannot be saved under its name could not be filled either.
+    if (workbook.model.is() &&
+        Reference<star::frame::XStorable>(workbook.model, UNO_QUERY_THROW)->isReadonly()) {
+        close_workbook(workbook);
+    }
+    return workbook.model;
 }
 
 // Called back by the office on its own main thread; from any other, showing a window may wait for ever.
 class ShowWindow : public cppu::WeakImplHelper1<star::awt::XCallback> {
   public:
-    explicit ShowWindow(const Reference<star::awt::XWindow>& window) : window_(window) {}
+    ShowWindow(const Reference<star::awt::XWindow>& window, std::function<void()> then)
+        : window_(window), then_(std::move(then)) {}
 
     void SAL_CALL notify(const Any& /*nothing*/) override {
         window_->setVisible(true);
         const Reference<star::awt::XTopWindow> top(window_, star::uno::UNO_QUERY);
         if (top.is()) {
             top->toFront();
+        }
+        try {
+            then_();
+        } catch (const star::uno::Exception&) {
+            // It is shown, which counts.
         }
         const std::lock_guard lock(mutex_);
         done_ = true;
@@ -205,6 +238,7 @@ class ShowWindow : public cppu::WeakImplHelper1<star::awt::XCallback> {
 
   private:
     Reference<star::awt::XWindow> window_;
+    std::function<void()> then_;
     std::mutex mutex_;
     std::condition_variable changed_;
     bool done_ = false;
@@ -216,15 +250,15 @@ Reference<star::sheet::XSpreadsheetView> view_of(const Workbook& workbook) {
 
 }  // namespace
 
-void open_workbook(const Office& office, const std::string& path, platform::SheetChoice choice,
-                   Workbook& workbook) {
-    workbook.model = load(office, path, false);
-    // One that cannot be saved under its name (no permission, someone else has it open) could not be filled either.
-    if (Reference<star::frame::XStorable>(workbook.model, UNO_QUERY_THROW)->isReadonly()) {
-        close_workbook(workbook);
-        workbook.model = load(office, path, true);
+void open_workbook(const Office& office, const platform::SheetFile& file, Workbook& workbook) {
+    workbook.model = load_under_name(office, file.path);
+    if (!workbook.model.is() && !file.template_path.empty()) {
+        workbook.model = load(office, file.template_path, true);
     }
-    if (choice == platform::SheetChoice::active) {
+    if (!workbook.model.is()) {
+        throw platform::Failure("The spreadsheet program cannot open " + file.path + ".");
+    }
+    if (file.sheet == platform::SheetChoice::active) {
         // As long as it is unseen, a workbook of several sheets is at its first, whichever it was saved at.
         workbook.sheet = view_of(workbook)->getActiveSheet();
     } else {
@@ -250,16 +284,20 @@ void write_cells(const Workbook& workbook, const platform::Cells& cells, const p
     }
 }
 
-void show_workbook(const Office& office, const Workbook& workbook) {
+void show_workbook(const Office& office, const Workbook& workbook, const std::function<void()>& then) {
     view_of(workbook)->setActiveSheet(workbook.sheet);
     const auto window = workbook.model->getCurrentController()->getFrame()->getContainerWindow();
-    const rtl::Reference<ShowWindow> show(new ShowWindow(window));
+    const rtl::Reference<ShowWindow> show(new ShowWindow(window, then));
     const Reference<star::awt::XRequestCallback> main_thread(
         office.context->getServiceManager()->createInstanceWithContext("com.sun.star.awt.AsyncCallback",
                                                                        office.context),
         UNO_QUERY_THROW);
     main_thread->addCallback(Reference<star::awt::XCallback>(show.get()), Any());
     show->wait();
+}
+
+void save(const Workbook& workbook) {
+    Reference<star::frame::XStorable>(workbook.model, UNO_QUERY_THROW)->store();
 }
 
 void save_copy(const Workbook& workbook, const std::string& path) {

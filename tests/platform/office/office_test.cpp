@@ -1,9 +1,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+
 #include "platform/failure.h"
 #include "platform/files.h"
 #include "platform/spreadsheet.h"
+#include "support/outside_double.h"
 #include "support/test_office.h"
 
 /// Workbooks filled by the real office, saved by the test and read back.
@@ -39,9 +43,9 @@ class RealOffice : public testing::Test {
 
     /// What the saved workbook holds after `cells` were written.
     SheetContent saved_after(const Cells& cells, SheetChoice choice = SheetChoice::first) const {
-        static_cast<void>(spreadsheet.open(target, choice));
-        spreadsheet.hand_over(target, choice, cells);
-        return spreadsheet.open(saved, choice);
+        static_cast<void>(spreadsheet.open({.path = target, .sheet = choice}));
+        spreadsheet.hand_over({.path = target, .sheet = choice}, {.cells = cells});
+        return spreadsheet.open({.path = saved, .sheet = choice});
     }
 
     static std::unique_ptr<TestOffice> office;
@@ -59,7 +63,7 @@ bool is_text_cell(const SheetContent& content, CellPosition cell) {
 }
 
 TEST_F(RealOffice, TheSheetTellsWhatItHoldsAndWhichCellsAreTexts) {
-    const SheetContent content = spreadsheet.open(target, SheetChoice::first);
+    const SheetContent content = spreadsheet.open({.path = target});
     EXPECT_THAT(content.cells,
                 testing::UnorderedElementsAre(testing::Pair(CellPosition{1, 1}, CellValue("Number")),
                                               testing::Pair(CellPosition{1, 2}, CellValue("Text")),
@@ -116,7 +120,7 @@ TEST_F(RealOffice, ATextStaysThatTextWhateverItLooksLike) {
 }
 
 TEST_F(RealOffice, WhatIsNotWrittenStaysWithItsFormat) {
-    const SheetContent before = spreadsheet.open(target, SheetChoice::first);
+    const SheetContent before = spreadsheet.open({.path = target});
     const SheetContent content =
         saved_after({{{2, 2}, "above"}, {{3, 4}, "beside"}, {{4, 1}, 1.0}, {{4, 4}, 2.0}});
     for (const auto& [cell, value] : before.cells) {
@@ -147,7 +151,7 @@ TEST_F(RealOffice, ADateIsTheNumberOfItsDay) {
 
 TEST_F(RealOffice, TheWorkbookOnDiskStaysTheCopyOfItsTemplate) {
     static_cast<void>(saved_after({{{6, 3}, "written"}}));
-    const auto content = spreadsheet.open(target, SheetChoice::first);
+    const auto content = spreadsheet.open({.path = target});
     EXPECT_FALSE(content.cells.contains({6, 3}));
 }
 
@@ -163,15 +167,106 @@ TEST_F(RealOffice, ThreeThousandRowsAreWrittenInOneGo) {
     EXPECT_EQ(content.cells.size(), written.size() + 7);
 }
 
-TEST_F(RealOffice, AWorkbookThatIsOpenAlreadyIsOpenedOnceMore) {
+/// The content of the first record of this kind in an .xls file, as numbers of 16 bits.
+std::vector<int> numbers_of_record(const std::string& book, int kind, int length) {
+    std::string head;
+    for (const int number : {kind, length}) {
+        head += {static_cast<char>(number & 0xff), static_cast<char>(number >> 8)};
+    }
+    const auto at = book.find(head);
+    std::vector<int> numbers;
+    for (int byte = 0; at != std::string::npos && byte < length; byte += 2) {
+        const auto digit = [&](int offset) {
+            return static_cast<unsigned char>(book.at(at + head.size() + static_cast<std::size_t>(offset)));
+        };
+        numbers.push_back(digit(byte) + digit(byte + 1) * 256);
+    }
+    return numbers;
+}
+
+TEST_F(RealOffice, RowsThatBelongTogetherDoNotPartAtTheEndOfAPage) {
+    Filling filling;
+    for (int row = 6; row < 150; row += 3) {
+        filling.cells[{row, 3}] = "three rows";
+        filling.cells[{row + 2, 3}] = "together";
+        filling.kept_rows.push_back({row, row + 2});
+    }
+    static_cast<void>(spreadsheet.open({.path = target}));
+    spreadsheet.hand_over({.path = target}, filling);
+    int breaks = 0;
+    const std::string book = testing_support::read_file(saved);
+    for (int count = 1; count < 5; ++count) {
+        const auto numbers = numbers_of_record(book, 0x001b, 2 + 6 * count);
+        if (!numbers.empty() && numbers[0] == count) {
+            for (breaks = 0; breaks < count; ++breaks) {
+                EXPECT_EQ((numbers.at(static_cast<std::size_t>(1 + 3 * breaks)) + 1) % 3, 0);  // 6, 9, ...
+            }
+        }
+    }
+    EXPECT_GT(breaks, 0) << "no page would have parted three rows";
+}
+
+// What cannot be opened under its name.
+
+struct UnnamedWorkbook : RealOffice {
+    SheetFile file{.path = target, .template_path = office->path("template.xls")};
+
+    void SetUp() override {
+        RealOffice::SetUp();
+        file = {.path = target, .template_path = office->path("template.xls")};
+        copy_file(office->path("two_sheets.xls"),
+                  target);  // something else, so that it is told from the template
+    }
+    void TearDown() override {
+        std::filesystem::remove(lock());
+        RealOffice::TearDown();
+    }
+    [[nodiscard]] std::string lock() const { return office->path(".~lock.target.xlr#"); }
+
+    /// Fills and saves a copy; true when the workbook was made from the template and has no name to be saved under.
+    [[nodiscard]] bool is_filled_without_a_name() const {
+        OfficeSettings settings = office->settings(saved);
+        settings.last_questions = {{"save", saved}, {"keep_name"}, {"close"}};
+        use_office(settings);
+        const std::string before = testing_support::read_file(target);
+        static_cast<void>(spreadsheet.open(file));
+        bool refused = false;
+        try {
+            spreadsheet.hand_over(file, {.cells = {{{7, 3}, "filled"}}});
+        } catch (const Failure&) {
+            refused = true;
+        }
+        use_office(office->settings());
+        const SheetContent content = spreadsheet.open({.path = saved});
+        EXPECT_EQ(content.cells.at({7, 3}), CellValue("filled"));
+        return refused && content.cells.at({1, 1}) == CellValue("Number") &&
+               testing_support::read_file(target) == before;
+    }
+};
+
+TEST_F(UnnamedWorkbook, IsNotMadeOfAFileThatCanBeOpened) {
+    EXPECT_FALSE(is_filled_without_a_name());
+}
+
+TEST_F(UnnamedWorkbook, TakesThePlaceOfOneThatAnotherUserHasOpen) {
+    std::ofstream(lock()) << ",Someone,elsewhere,20.11.2025 10:00,file:///elsewhere;";
+    EXPECT_TRUE(is_filled_without_a_name());
+}
+
+TEST_F(UnnamedWorkbook, TakesThePlaceOfNone) {
+    file.path = "";
+    EXPECT_TRUE(is_filled_without_a_name());
+    file.path = office->path("gone.xls");
+    EXPECT_TRUE(is_filled_without_a_name());
+}
+
+TEST_F(UnnamedWorkbook, TakesThePlaceOfOneThatIsOpenAlready) {
     OfficeSettings left_open = office->settings();
     left_open.last_questions.clear();
     use_office(left_open);
-    static_cast<void>(spreadsheet.open(target, SheetChoice::first));
-    spreadsheet.hand_over(target, SheetChoice::first, {{{6, 3}, "first"}});
-    copy_file(office->path("template.xls"), target);
-    use_office(office->settings(saved));
-    EXPECT_EQ(saved_after({{{7, 3}, "second"}}).cells.at({7, 3}), CellValue("second"));
+    static_cast<void>(spreadsheet.open({.path = target}));
+    spreadsheet.hand_over({.path = target}, {.cells = {{{6, 3}, "first"}}});
+    EXPECT_TRUE(is_filled_without_a_name());
     office->end();
 }
 
