@@ -36,7 +36,7 @@ links=$(grep -hoE '(href|src|name="Local" value)="[^"]+"' ./*.html GullymarkAL.h
   sed -E 's/^.*="([^"#]+).*$/\1/' | LC_ALL=C sort -u)
 complain_of "links to nothing:" "$(comm -23 <(echo "$links") <(echo "$files"))"
 complain_of "pages that the contents do not name:" \
-  "$(comm -13 <(grep -oE '[a-z_]+\.html' GullymarkAL.hhc | LC_ALL=C sort -u) <(ls ./*.html | sed 's|^\./||' | LC_ALL=C sort))"
+  "$(comm -13 <(grep -oE '[a-z0-9_]+\.html' GullymarkAL.hhc | LC_ALL=C sort -u) <(ls ./*.html | sed 's|^\./||' | LC_ALL=C sort))"
 complain_of "letters that are no ASCII, which a viewer may misread; write them as entities:" \
   "$(LC_ALL=C grep -nP '[^\x00-\x7F]' ./*.html GullymarkAL.hh?)"
 
