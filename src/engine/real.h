@@ -66,6 +66,20 @@ constexpr std::partial_ordering operator<=>(Real a, Real b) {
     return a.number() <=> b.number();
 }
 
+/// The value of a formula, or why it has none: for a fault that is nothing unusual, which is returned and not thrown.
+struct Outcome {
+    constexpr Outcome(Real number) : value(number) {}
+    constexpr Outcome(Fault reason) : fault(reason) {}
+
+    Real value;
+    Fault fault = Fault::none;
+};
+
+/// The quotient of a formula whose divisor is 0 in ordinary inlets.
+constexpr Outcome divide(Real a, Real b) {
+    return b == 0.0 ? Outcome(Fault::division_by_zero) : Outcome(a / b);
+}
+
 /// `base` to the power `exponent`. Faults on a negative base under a non-whole exponent, on 0 under a negative one, and on
 /// a result too large.
 inline Real power(Real base, Real exponent) {

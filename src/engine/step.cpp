@@ -49,18 +49,32 @@ std::string describe(const TraceLine& line) {
     return text;
 }
 
-Real number_in(std::string_view text) {
+namespace {
+
+Outcome read(std::string_view text) {
     const auto read = platform::read_number(text);
     switch (read.fault) {
         case platform::NumberFault::unreadable:
-            throw Fault::unreadable_number;
+            return Fault::unreadable_number;
         case platform::NumberFault::overflow:
-            throw Fault::overflow;
+            return Fault::overflow;
         case platform::NumberFault::none:
             break;
     }
-    return {read.number};
+    return Real(read.number);
 }
+
+}  // namespace
+
+Real number_in(std::string_view text) {
+    const Outcome outcome = read(text);
+    if (outcome.fault != Fault::none) {
+        throw outcome.fault;
+    }
+    return outcome.value;
+}
+
+Reading::Reading(Column column) : outcome_(read(open_inlet.text(column))) {}
 
 Real number_in(Column column) {
     return number_in(open_inlet.text(column));
@@ -94,7 +108,7 @@ void note(int number, bool entered, Fault fault) {
 }
 
 void write(Column target, Real number) {
-    open_inlet.set(target, platform::number_text(number.number()));
+    open_inlet.set(target, platform::number_letters(number.number()));
 }
 
 void write(Column target, std::string_view text) {

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -63,6 +64,23 @@ Real number_in(std::string_view text);
 /// The number in the text of a column of the open inlet.
 Real number_in(Column column);
 
+/// A column read once for a sheet that uses it in several steps: each use gives its number, or throws its fault.
+class Reading {
+  public:
+    Reading() = default;
+    explicit Reading(Column column);
+
+    operator Real() const {  // NOLINT(google-explicit-constructor): it stands for its number
+        if (outcome_.fault != Fault::none) {
+            throw outcome_.fault;
+        }
+        return outcome_.value;
+    }
+
+  private:
+    Outcome outcome_ = Real(0.0);
+};
+
 namespace detail {
 /// What a step did, for the trace that somebody takes.
 void note(int number, const Quantity& target, Fault fault);
@@ -81,13 +99,27 @@ inline void write(Quantity& target, Real number) {
 void write(Column target, Real number);
 void write(Column target, std::string_view text);
 
+/// Gives a target what its formula came to; the fault of a formula that returned one.
+template <typename Target, typename Value>
+Fault take(Target&& target, const Value& value) {
+    if constexpr (std::is_same_v<Value, Outcome>) {
+        if (value.fault == Fault::none) {
+            write(target, value.value);
+        }
+        return value.fault;
+    } else {
+        write(target, value);
+        return Fault::none;
+    }
+}
+
 /// Runs one step and notes it; the fault that abandoned it, or none.
 template <typename Target, typename Formula>
 Fault run(int number, Target&& target, Formula&& formula) {
     Fault caught = Fault::none;
     try {
         trip(number);
-        write(target, std::forward<Formula>(formula)());
+        caught = take(target, std::forward<Formula>(formula)());
     } catch (Fault fault) {
         caught = fault;
     }
@@ -115,7 +147,7 @@ Fault ask(int number, bool& entered, Condition&& condition) {
 }  // namespace detail
 
 /// A step under the rule above. `target` is a Quantity or a Column, `formula` gives a Real (a column takes
-/// its text of up to 15 digits) or, for a column, a text.
+/// its text of up to 15 digits), an Outcome or, for a column, a text.
 template <typename Target, typename Formula>
 void step(int number, Target&& target, Formula&& formula) {
     detail::run(number, target, std::forward<Formula>(formula));

@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <system_error>
 
+#include "platform/decimal.h"
+
 namespace gullymark::platform {
 namespace {
 
@@ -64,67 +66,141 @@ bool exceeds_one(const char* at, const char* end) {
     return digits_before_point + (negative ? -exponent : exponent) > 0;
 }
 
-/// The decimal digits of a number and where its point stands: 0.d1d2d3... x 10^point.
-struct Decimal {
-    std::array<char, 17> digits{};
-    int count = 0;
-    int point = 0;
-    bool negative = false;
-};
+/// Writes the digit at `index` of the letters of a decimal, or a zero beyond them.
+char digit_at(std::string_view letters, int index) {
+    return index >= 0 && index < static_cast<int>(letters.size()) ? letters[static_cast<std::size_t>(index)]
+                                                                  : '0';
+}
 
-/// The up to 15 significant digits of `number`.
-Decimal decimal_digits(double number) {
-    std::array<char, 32> buffer{};
-    const auto end =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::scientific, 14)
-            .ptr;
-    Decimal decimal;
-    const char* at = buffer.data();
-    if (*at == '-') {
-        decimal.negative = true;
-        ++at;
+/// The decimal with `decimals` places behind its point, which it has been rounded to.
+std::string place_digits(const Decimal& decimal, int decimals) {
+    std::array<char, 20> buffer{};
+    const char* const end =
+        decimal.count == 0 ? buffer.data()
+                           : std::to_chars(buffer.data(), buffer.data() + buffer.size(), decimal.digits).ptr;
+    const std::string_view letters(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
+    const bool minus = decimal.negative && decimal.count > 0;
+    const int whole = std::max(decimal.point, 1);
+    std::string text(static_cast<std::size_t>((minus ? 1 : 0) + whole + (decimals > 0 ? decimals + 1 : 0)),
+                     '0');
+    char* to = text.data();
+    if (minus) {
+        *to++ = '-';
     }
-    for (; *at != 'e'; ++at) {
-        if (*at != '.') {
-            decimal.digits.at(static_cast<std::size_t>(decimal.count++)) = *at;
+    for (int i = decimal.point - whole; i < decimal.point; ++i) {
+        *to++ = digit_at(letters, i);
+    }
+    if (decimals > 0) {
+        *to++ = '.';
+        for (int i = 0; i < decimals; ++i) {
+            *to++ = digit_at(letters, decimal.point + i);
         }
     }
-    at += at[1] == '+' ? 2 : 1;
-    std::from_chars(at, end, decimal.point);
-    ++decimal.point;
-    while (decimal.count > 0 && decimal.digits.at(static_cast<std::size_t>(decimal.count - 1)) == '0') {
-        --decimal.count;
-    }
-    return decimal;
+    return text;
 }
 
-char digit_at(const Decimal& decimal, int index) {
-    return index >= 0 && index < decimal.count ? decimal.digits.at(static_cast<std::size_t>(index)) : '0';
+/// The 15 digits of a whole number. Its halves do not wait for each other.
+std::array<char, 15> letters_of(std::uint64_t digits) {
+    std::array<char, 15> letters{};
+    auto high = static_cast<std::uint32_t>(digits / 100'000'000);
+    auto low = static_cast<std::uint32_t>(digits % 100'000'000);
+    for (std::size_t i = 0; i < 7; ++i) {
+        letters[6 - i] = static_cast<char>('0' + high % 10);
+        letters[14 - i] = static_cast<char>('0' + low % 10);
+        high /= 10;
+        low /= 10;
+    }
+    letters[7] = static_cast<char>('0' + low);
+    return letters;
 }
 
-/// Rounds to `decimals` places behind the point, halves away from zero.
-void round_half_away(Decimal& decimal, int decimals) {
-    const int keep = decimal.point + decimals;
-    if (keep >= decimal.count) {
-        return;
+/// A decimal of 15 digits, point -3 to 15, as its digits alone, with a point where it needs one and no zero too many; the
+/// end of what was written.
+char* write_plain(const Decimal& decimal, char* to) {
+    const auto letters = letters_of(decimal.digits);
+    const char* const digits = letters.data();
+    const char* end = digits + letters.size();
+    while (*(end - 1) == '0') {
+        --end;
     }
-    const bool up = keep >= 0 && digit_at(decimal, keep) >= '5';
-    decimal.count = std::max(keep, 0);
-    if (!up) {
-        return;
+    if (decimal.negative) {
+        *to++ = '-';
     }
-    int at = keep - 1;
-    while (at >= 0 && decimal.digits.at(static_cast<std::size_t>(at)) == '9') {
+    if (decimal.point <= 0) {
+        *to++ = '0';
+        *to++ = '.';
+        to = std::fill_n(to, -decimal.point, '0');
+        return std::copy(digits, end, to);
+    }
+    to = std::copy(digits, digits + decimal.point, to);
+    if (end > digits + decimal.point) {
+        *to++ = '.';
+        to = std::copy(digits + decimal.point, end, to);
+    }
+    return to;
+}
+
+/// A text of the form in which `number_letters` writes without an exponent: [-] digits [. digits], no zero too many before
+/// the point, at most 15 significant digits. Its digits are those of the double that it reads as.
+struct PlainText {
+    bool is_plain = false;
+    std::size_t point = 0;  // where it stands, or the end of the text
+};
+
+PlainText plain_text(std::string_view text) {
+    const char* const start = text.data();
+    const char* const end = start + text.size();
+    const char* const whole = !text.empty() && *start == '-' ? start + 1 : start;
+    const char* const point = skip_digits(whole, end);
+    const bool below_one = point - whole == 1 && *whole == '0';
+    if (point == whole || (*whole == '0' && !below_one)) {
+        return {};
+    }
+    const char* significant = whole;
+    const char* last = point;
+    if (point != end) {
+        if (*point != '.' || skip_digits(point + 1, end) != end) {
+            return {};
+        }
+        last = end - 1;
+        if (below_one) {
+            significant = std::find_if(point + 1, end, [](char c) { return c != '0'; }) - 1;
+        }
+    }
+    return {last - significant <= 15, static_cast<std::size_t>(point - start)};
+}
+
+/// Adds one to the last digit of a text of digits, a point and a minus sign.
+void count_up(std::string& text) {
+    std::size_t at = text.size();
+    while (at > 0 && text[at - 1] != '-') {
         --at;
+        if (text[at] == '9') {
+            text[at] = '0';
+        } else if (text[at] != '.') {
+            ++text[at];
+            return;
+        }
     }
-    if (at >= 0) {
-        ++decimal.digits.at(static_cast<std::size_t>(at));
-        decimal.count = at + 1;
-    } else {
-        decimal.digits.front() = '1';
-        decimal.count = 1;
-        ++decimal.point;
+    text.insert(at, 1, '1');
+}
+
+/// Rounds a plain text to `decimals` behind its point, halves away from zero.
+std::string round_plain(std::string_view text, const PlainText& plain, std::size_t decimals) {
+    const std::size_t there = plain.point == text.size() ? 0 : text.size() - plain.point - 1;
+    std::string rounded(text.substr(0, plain.point + (decimals == 0 ? 0 : decimals + 1)));
+    if (there < decimals) {
+        if (plain.point == text.size()) {
+            rounded += '.';
+        }
+        rounded.append(decimals - there, '0');
+    } else if (there > decimals && text[plain.point + 1 + decimals] >= '5') {
+        count_up(rounded);
     }
+    if (rounded.front() == '-' && rounded.find_first_not_of("0.", 1) == std::string::npos) {
+        rounded.erase(0, 1);
+    }
+    return rounded;
 }
 
 int decimals_of(std::string_view format) {
@@ -135,6 +211,11 @@ int decimals_of(std::string_view format) {
 }  // namespace
 
 NumberRead read_number(std::string_view text) {
+    Decimal decimal;
+    double exact = 0.0;
+    if (read_plain_digits(text, decimal) && read_exactly(decimal, exact)) {
+        return {.number = exact};
+    }
     text = trim_blanks(text);
     const char* at = text.data();
     const char* end = at + text.size();
@@ -162,39 +243,38 @@ NumberRead read_number(std::string_view text) {
     return {.number = negative ? -number : number};
 }
 
-std::string number_text(double number) {
+NumberLetters number_letters(double number) {
+    NumberLetters written;
+    char* const start = written.letters.data();
+    char* to = start;
     if (number == 0.0) {
-        return "0";
+        *to++ = '0';
+    } else if (const Decimal decimal = decimal_digits(number); decimal.point >= -3 && decimal.point <= 15) {
+        to = write_plain(decimal, to);
+    } else {
+        to = std::to_chars(start, start + written.letters.size(), number, std::chars_format::general, 15).ptr;
+        std::replace(start, to, 'e', 'E');
     }
-    std::array<char, 40> buffer{};
-    const auto written =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::general, 15);
-    std::string text(buffer.data(), written.ptr);
-    std::replace(text.begin(), text.end(), 'e', 'E');
-    return text;
+    written.count = static_cast<std::size_t>(to - start);
+    return written;
+}
+
+std::string number_text(double number) {
+    return std::string(number_letters(number));
 }
 
 std::string format_number(double number, std::string_view format) {
-    const int decimals = decimals_of(format);
     Decimal decimal = decimal_digits(number);
+    const int decimals = decimals_of(format);
     round_half_away(decimal, decimals);
-    std::string text;
-    if (decimal.negative && decimal.count > 0) {
-        text += '-';
-    }
-    for (int i = std::min(0, decimal.point - 1); i < decimal.point; ++i) {
-        text += digit_at(decimal, i);
-    }
-    if (decimals > 0) {
-        text += '.';
-        for (int i = 0; i < decimals; ++i) {
-            text += digit_at(decimal, decimal.point + i);
-        }
-    }
-    return text;
+    return place_digits(decimal, decimals);
 }
 
 std::string format_text(std::string_view text, std::string_view format) {
+    const int decimals = decimals_of(format);
+    if (const PlainText plain = plain_text(text); plain.is_plain) {
+        return round_plain(text, plain, static_cast<std::size_t>(decimals));
+    }
     const NumberRead read = read_number(text);
     return read.fault == NumberFault::none ? format_number(read.number, format) : std::string(text);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <optional>
+#include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -32,6 +33,15 @@ NumberRead read_number(std::string_view text);
 /// The decimal text of up to 15 significant digits of a finite `number`: "0.1", "12.5", "1E-05".
 /// Values from 1E-04 up to below 1E+15 are written without an exponent. Zero is "0", never "-0".
 std::string number_text(double number);
+
+/// The same without a string of its own, for who writes many.
+struct NumberLetters {
+    std::array<char, 32> letters{};
+    std::size_t count = 0;
+
+    operator std::string_view() const { return {letters.data(), count}; }
+};
+NumberLetters number_letters(double number);
 
 /// `text` written as a number with as many decimals as `format` has zeros behind its point ("0.000", "#0", "#0.00"),
 /// at least one digit before the point, halves rounded away from zero on the decimal digits of `number_text`,

@@ -79,6 +79,30 @@ TEST_F(StepRule, ATrippedStepFaultsWhateverItsFormula) {
     EXPECT_TRUE(holds(2, [] { return false; }));
 }
 
+TEST_F(StepRule, AFaultThatIsReturnedLeavesTheTargetAndTheTraceAsOneThatIsThrown) {
+    std::vector<TraceLine> trace;
+    onlooker.trace = &trace;
+    Quantity T{"T", Unit::length, "spread", 7.0};
+    step(1, T, [] { return divide(1.0, 0.0); });
+    EXPECT_EQ(T.value, 7.0);
+    EXPECT_EQ(describe(trace[0]), "1  T abandoned: division by zero  spread");
+    step(2, T, [] { return divide(1.0, 4.0); });
+    EXPECT_EQ(T.value, 0.25);
+    EXPECT_THROW(strict_step(3, T, [] { return divide(1.0, 0.0); }), Fault);
+    step(4, T, [] { return divide(1e300, 1e-300); });
+    EXPECT_EQ(trace[3].fault, Fault::overflow);
+}
+
+TEST_F(StepRule, AColumnThatIsReadOnceFaultsAtEachUse) {
+    open_inlet.load(Column::INLETLENGTH, "abc");
+    const Reading unreadable(Column::INLETLENGTH);
+    open_inlet.load(Column::INLETLENGTH, "4.5");
+    const Reading length(Column::INLETLENGTH);
+    EXPECT_THROW((void)(unreadable > 1.0), Fault);
+    EXPECT_THROW((void)(unreadable * 2.0), Fault);
+    EXPECT_EQ(length * 2.0, 9.0);
+}
+
 TEST_F(StepRule, AStrictStepFaultsToItsCaller) {
     Quantity T{"T", Unit::length, "spread", 1.0};
     EXPECT_THROW(strict_step(1, T, [] { return Real(1.0) / 0.0; }), Fault);

@@ -57,6 +57,13 @@ TEST(NumberText, WritesUpToFifteenSignificantDigits) {
     EXPECT_EQ(number_text(123456789012345.0), "123456789012345");
     EXPECT_EQ(number_text(0.00001), "1E-05");
     EXPECT_EQ(read_number(number_text(2.5e-7)).number, 2.5e-7);
+    EXPECT_EQ(number_text(0.0001), "0.0001");
+    EXPECT_EQ(number_text(0.00099999999999999991), "0.001");
+    EXPECT_EQ(number_text(9.9999999999999999e-5), "0.0001");
+    EXPECT_EQ(number_text(0.00009999999999999), "9.999999999999E-05");
+    EXPECT_EQ(number_text(999999999999999.0), "999999999999999");
+    EXPECT_EQ(number_text(999999999999999.9), "1E+15");
+    EXPECT_EQ(number_text(-1200.0), "-1200");
 }
 
 struct FormatCase {
@@ -88,6 +95,19 @@ TEST(NumberText, FormatsWithFixedDecimalsAndRoundsHalvesAwayFromZero) {
         {" 7 ", "0.00", "7.00"},
         {"1e-300", "0.0000", "0.0000"},
         {"0.00000000000000049999999999999999", "0.000", "0.000"},
+        {"-0.0", "0", "0"},
+        {"-0.0005", "0.00", "0.00"},
+        {"-9.9995", "0.000", "-10.000"},
+        {"007", "0.0", "7.0"},
+        {"+7", "0.0", "7.0"},
+        {".5", "0.00", "0.50"},
+        {"3.", "0.0", "3.0"},
+        {"99999.5", "#0", "100000"},
+        {"0.999999999999999", "0.000", "1.000"},
+        {"123456789012.0005", "0.000", "123456789012.001"},
+        // The sixteenth digit is rounded before the format rounds: 0.0005 becomes of what is less.
+        {"0.12345000000000049", "0.0000", "0.1235"},
+        {"1.000499999999999999", "0.000", "1.001"},
     };
     for (const auto& [text, format, result] : cases) {
         EXPECT_EQ(format_text(text, format), result) << text << " with " << format;

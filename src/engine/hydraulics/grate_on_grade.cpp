@@ -55,7 +55,8 @@ void read_inputs(int first, GrateOnGrade& s) {
     step(first + 1, s.S, [] { return number_in(LONGSLOPE); });
     step(first + 2, s.n, [] { return number_in(MANNINGS); });
     step(first + 3, s.W, [] { return number_in(GUTWIDTH); });
-    step(first + 4, s.Sx, [] { return number_in(PAVXSLOPE); });
+    const Reading pavement_slope(PAVXSLOPE);
+    step(first + 4, s.Sx, [&] { return pavement_slope; });
     step(first + 5, s.Sw, [] { return number_in(GUTXSLOPE); });
     step(first + 6, s.Wa, [] { return number_in(LOCDEPWIDTH); });
     fill_blank(first + 7, GRATEPERCLOG, "0");
@@ -64,7 +65,7 @@ void read_inputs(int first, GrateOnGrade& s) {
     step(first + 11, s.Weff, [&s] { return s.Wg * (1.0 - s.C / 100.0); });
     // A fixed slope, where a curb opening copies one of the record; the difference is deliberate.
     fill_blank(first + 12, INLETXSLOPE, usual_inlet_slope);
-    raise_inlet_slope(first + 14, [] { return number_in(PAVXSLOPE); });
+    raise_inlet_slope(first + 14, pavement_slope);
     step(first + 16, s.SdashW, [] { return number_in(INLETXSLOPE); });
     step(first + 17, s.a, [&s] { return (s.SdashW - s.Sw) * s.W; });
     step(first + 18, s.limit, [] { return number_in(ALLOWABLE_SPREAD); });
@@ -101,10 +102,10 @@ void find_depth_and_velocity(int first, GrateOnGrade& s) {
 }
 
 void find_grate_efficiency(int first, GrateOnGrade& s, Real V) {
-    convert_grate_length(first, s.frontal);
+    read_grate_length(first, s.frontal);
     find_frontal_efficiency(first + 1, s.frontal, V);
     step(first + 14, s.Rs, [&s, V] {
-        const Real length = number_in(INLETLENGTH);
+        const Real length = s.frontal.length;
         return 1.0 / (1.0 + unit_constants.sideFlowConstant * power(V, 1.8) / (s.Sx * power(length, 2.3)));
     });
     // Without a depression the division faults: the grate keeps the whole of Eo, and a clogged one still
@@ -112,7 +113,7 @@ void find_grate_efficiency(int first, GrateOnGrade& s, Real V) {
     step(first + 15, s.Eg, [&s] { return s.Eo; });
     step(first + 16, s.Eg, [&s] {
         const Real length = grate_length_in_feet(s.frontal);
-        return s.Eo * (length * s.Weff) / (length * s.Wa);
+        return divide(s.Eo * (length * s.Weff), length * s.Wa);
     });
     step(first + 17, s.E, [&s] { return s.Eg * s.frontal.Rf + s.Rs * (1.0 - s.Eg); });
     if (holds(first + 18, [&s] { return s.E > 1.0; })) {

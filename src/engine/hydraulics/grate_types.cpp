@@ -48,14 +48,15 @@ std::vector<std::string_view> grate_names() {
     return names;
 }
 
-void convert_grate_length(int number, FrontalFlow& frontal) {
+void read_grate_length(int number, FrontalFlow& frontal) {
+    frontal.length = Reading(Column::INLETLENGTH);
     if (!is_english()) {
-        step(number, frontal.Lf, [] { return number_in(Column::INLETLENGTH) / meters_per_foot; });
+        step(number, frontal.Lf, [&frontal] { return frontal.length / meters_per_foot; });
     }
 }
 
 Real grate_length_in_feet(const FrontalFlow& frontal) {
-    return is_english() ? number_in(Column::INLETLENGTH) : frontal.Lf;
+    return is_english() ? Real(frontal.length) : frontal.Lf;
 }
 
 void find_frontal_efficiency(int first, FrontalFlow& frontal, Real V) {

@@ -33,13 +33,14 @@ std::vector<std::string_view> grate_names();
 
 /// The part of a sheet that finds the frontal efficiency Rf.
 struct FrontalFlow {
+    Reading length;  // INLETLENGTH
     Quantity Lf{"Lf", Unit::other, "length of the grate in ft"};
     Quantity Vo{"Vo", Unit::other, "velocity of splash-over"};
     Quantity Rf{"Rf", Unit::ratio, "efficiency for frontal flow"};
 };
 
-/// Converts a metric INLETLENGTH into Lf, which is one step. An ENGLISH length is already in feet and stays a text.
-void convert_grate_length(int number, FrontalFlow& frontal);
+/// Reads INLETLENGTH; converts a metric one into Lf, which is one step. An ENGLISH length is already in feet.
+void read_grate_length(int number, FrontalFlow& frontal);
 
 /// The length of the grate in feet: in ENGLISH units the number in INLETLENGTH, so that a text that is none
 /// faults wherever the length is used; else Lf, which such a text has left at 0.

@@ -13,12 +13,12 @@ inline constexpr std::string_view usual_inlet_slope = "0.1";
 /// A blank `column` takes `text`. Two steps from `first` on.
 void fill_blank(int first, Column column, std::string_view text);
 
-/// An INLETXSLOPE flatter than the pavement takes the text of PAVXSLOPE. `pavement_slope` gives the slope to compare
-/// with: some solvers read the column anew, so that an unreadable one faults here and enters the branch. Two steps
-/// from `first` on.
+/// An INLETXSLOPE flatter than the pavement takes the text of PAVXSLOPE. `pavement_slope` is the slope to compare with:
+/// a Quantity, or in some solvers a Reading of the column, so that an unreadable one faults here and enters the branch.
+/// Two steps from `first` on.
 template <typename Slope>
-void raise_inlet_slope(int first, Slope pavement_slope) {
-    if (holds(first, [&] { return pavement_slope() > number_in(Column::INLETXSLOPE); })) {
+void raise_inlet_slope(int first, const Slope& pavement_slope) {
+    if (holds(first, [&] { return pavement_slope > number_in(Column::INLETXSLOPE); })) {
         step(first + 1, Column::INLETXSLOPE,
              [] { return std::string_view(open_inlet.text(Column::PAVXSLOPE)); });
     }

@@ -46,12 +46,13 @@ void read_inputs() {
     step(2, s.S, [] { return number_in(LONGSLOPE); });
     step(3, s.n, [] { return number_in(MANNINGS); });
     step(4, s.W, [] { return number_in(GUTWIDTH); });
-    step(5, s.Sx, [] { return number_in(PAVXSLOPE); });
+    const Reading pavement_slope(PAVXSLOPE);
+    step(5, s.Sx, [&] { return pavement_slope; });
     step(6, s.Sw, [] { return number_in(GUTXSLOPE); });
     step(7, s.Wa, [] { return number_in(LOCDEPWIDTH); });
     // A blank inlet slope is that of the gutter here, that of the pavement in a sump; the difference is deliberate.
     fill_blank(8, INLETXSLOPE, open_inlet.text(GUTXSLOPE));
-    raise_inlet_slope(10, [] { return number_in(PAVXSLOPE); });
+    raise_inlet_slope(10, pavement_slope);
     step(12, s.SdashW, [] { return number_in(INLETXSLOPE); });
     fill_blank(13, GRATEPERCLOG, "0");
     step(15, s.a, [&s] { return s.W * (s.SdashW - s.Sw); });
@@ -100,7 +101,7 @@ void find_depression_slope() {
     if (!depressed) {
         if (holds(35, [&s] { return s.Sw > s.Sx; })) {
             step(36, s.a, [&s] { return s.W * (s.Sw - s.Sx); });
-            step(37, s.SdashD, [&s] { return s.a / s.W; });
+            step(37, s.SdashD, [&s] { return divide(s.a, s.W); });
         } else {
             step(38, s.SdashD, [] { return Real(0.0); });
         }

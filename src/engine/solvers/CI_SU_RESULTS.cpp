@@ -68,7 +68,7 @@ void read_inputs() {
     step(13, s.Sw, [] { return number_in(GUTXSLOPE); });
     // A blank inlet slope is that of the pavement here, that of the gutter on grade; the difference is deliberate.
     fill_blank(14, INLETXSLOPE, open_inlet.text(PAVXSLOPE));
-    raise_inlet_slope(16, [&s] { return s.Sx; });
+    raise_inlet_slope(16, s.Sx);
     step(18, s.SdashW, [] { return number_in(INLETXSLOPE); });
     step(19, s.Wa, [] { return number_in(LOCDEPWIDTH); });
     step(20, s.a, [&s] { return (s.SdashW - s.Sw) * s.W; });

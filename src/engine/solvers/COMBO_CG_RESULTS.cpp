@@ -38,10 +38,11 @@ void round_composite_slope() {
 
 void find_share_of_curb() {
     auto& s = sheet;
-    if (holds(54, [&s] { return number_in(OPENLEN_GRATE) > s.grate.LT; })) {
+    const Reading length(OPENLEN_GRATE);
+    if (holds(54, [&s, length] { return length > s.grate.LT; })) {
         step(55, s.Ec, [] { return Real(1.0); });
     } else {
-        step(56, s.Ec, [&s] { return 1.0 - power(1.0 - number_in(OPENLEN_GRATE) / s.grate.LT, 1.8); });
+        step(56, s.Ec, [&s, length] { return 1.0 - power(1.0 - length / s.grate.LT, 1.8); });
     }
     step(57, s.Qic, [&s] { return s.Ec * s.grate.Q; });
     step(58, QINTCURB, [&s] { return s.Qic; });

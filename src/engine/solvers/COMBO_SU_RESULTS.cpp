@@ -66,7 +66,8 @@ void read_inlet() {
 void read_section() {
     auto& s = sheet;
     step(17, s.W, [] { return number_in(GUTWIDTH); });
-    step(18, s.Sx, [] { return number_in(PAVXSLOPE); });
+    const Reading pavement_slope(PAVXSLOPE);
+    step(18, s.Sx, [&] { return pavement_slope; });
     step(19, s.Sw, [] { return number_in(GUTXSLOPE); });
     step(20, s.Wa, [] { return number_in(LOCDEPWIDTH); });
     // Before the gutter spread, where the grate alone widens the gutter behind it, deliberately.
@@ -74,7 +75,7 @@ void read_section() {
         step(22, s.W, [&s] { return s.Wg; });
     }
     fill_blank(23, INLETXSLOPE, usual_inlet_slope);
-    raise_inlet_slope(25, [] { return number_in(PAVXSLOPE); });
+    raise_inlet_slope(25, pavement_slope);
     step(27, s.SdashW, [] { return number_in(INLETXSLOPE); });
     step(28, s.S, [] { return number_in(LONGSLOPE); });
     step(29, s.n, [] { return number_in(MANNINGS); });

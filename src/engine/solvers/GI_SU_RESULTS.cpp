@@ -49,11 +49,12 @@ void read_section() {
     step(10, s.W, [] { return number_in(GUTWIDTH); });
     step(11, s.S, [] { return number_in(LONGSLOPE); });
     step(12, s.n, [] { return number_in(MANNINGS); });
-    step(13, s.Sx, [] { return number_in(PAVXSLOPE); });
+    const Reading pavement_slope(PAVXSLOPE);
+    step(13, s.Sx, [&] { return pavement_slope; });
     step(14, s.Sw, [] { return number_in(GUTXSLOPE); });
     step(15, s.Wa, [] { return number_in(LOCDEPWIDTH); });
     fill_blank(16, INLETXSLOPE, usual_inlet_slope);
-    raise_inlet_slope(18, [] { return number_in(PAVXSLOPE); });
+    raise_inlet_slope(18, pavement_slope);
     step(20, s.SdashW, [] { return number_in(INLETXSLOPE); });
     fill_blank(21, GRATEPERCLOG, "0");
     step(23, s.limit, [] { return number_in(ALLOWABLE_SPREAD); });

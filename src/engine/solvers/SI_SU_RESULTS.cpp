@@ -56,7 +56,7 @@ void read_inputs() {
     step(11, s.Wa, [] { return number_in(LOCDEPWIDTH); });
     // A fixed slope in both unit systems, where a curb opening copies one of the record; the difference is deliberate.
     fill_blank(12, INLETXSLOPE, usual_inlet_slope);
-    raise_inlet_slope(14, [&s] { return s.Sx; });
+    raise_inlet_slope(14, s.Sx);
     step(16, s.SdashW, [] { return number_in(INLETXSLOPE); });
     fill_blank(17, GRATEPERCLOG, "0");
     step(19, s.a, [&s] { return (s.SdashW - s.Sw) * s.W; });

@@ -100,12 +100,12 @@ void find_side_slope() {
 
 void find_efficiency() {
     auto& s = sheet;
-    convert_grate_length(22, s.frontal);
+    read_grate_length(22, s.frontal);
     find_frontal_efficiency(23, s.frontal, s.V);
     find_side_slope();
     step(41, FFLOWEFF, [&s] { return s.frontal.Rf; });
     step(42, s.Rs, [&s] {
-        const Real length = number_in(INLETLENGTH);
+        const Real length = s.frontal.length;
         return 1.0 / (unit_constants.sideFlowConstant * power(s.V, 1.8) / (power(length, 2.3) * s.Ss) + 1.0);
     });
     step(43, SFLOWEFF, [&s] { return s.Rs; });
@@ -122,7 +122,7 @@ void find_interception() {
     step(49, QINT, [&s] { return s.Qi; });
     step(50, s.Qc, [&s] { return s.Q - s.Qi; });
     step(51, QCARRY, [&s] { return s.Qc; });
-    step(52, s.Pr, [&s] { return 2.0 * (number_in(INLETLENGTH) + s.Wg); });
+    step(52, s.Pr, [&s] { return 2.0 * (s.frontal.length + s.Wg); });
     // In ft or m: the one depth that is not turned into in or mm.
     step(53, DSBH, [&s] { return power(s.Q / (unit_constants.weirCoefficient * s.Pr), 0.67); });
 }

@@ -12,7 +12,7 @@ class Frontal : public EngineTest {
     static double efficiency(std::string_view grate, std::string_view length, double V) {
         fill({{Column::GRATETYPE, grate}, {Column::INLETLENGTH, length}});
         FrontalFlow frontal;
-        convert_grate_length(1, frontal);
+        read_grate_length(1, frontal);
         find_frontal_efficiency(2, frontal, V);
         return frontal.Rf.value.number();
     }
