@@ -21,7 +21,7 @@ using store::ProjectSession;
 
 constexpr int first_row = 15;
 
-constexpr ReportFile report = {
+constexpr ReportFile form_file = {
     .template_name = "INLETDESIGNFORMAL.xlr",
     .filter = "Inlet Design Form files (*.xls)|*.xls",
     .title = "Enter New File Name for Inlet Design Form",
@@ -216,11 +216,11 @@ void InletDesignForm(std::size_t inlet_count) {
     }
     platform::RowSet rows;
     attempt([&] { rows.open(store::project_store.connection, "SELECT * FROM INLET ORDER BY INLET_NUMBER"); });
-    const auto target = choose_target(report);
+    const auto target = choose_target(form_file);
     if (!target) {
         return;
     }
-    fill_copy_of_template(report, *target, [&](platform::Sheet& sheet) { fill(sheet, rows); });
+    fill_copy_of_template(form_file, *target, [&](platform::Sheet& sheet) { fill(sheet, rows); });
     attempt([&] { rows.close(); });
 }
 

@@ -17,7 +17,7 @@ namespace words = engine::words;
 using enum engine::Column;
 using store::ProjectSession;
 
-constexpr ReportFile report = {
+constexpr ReportFile report_file = {
     .template_name = "INLET_REPORTAL.xlr",
     .filter = "Inlet Report files (*.xls)|*.xls",
     .title = "Enter New File Name for Inlet Report",
@@ -260,12 +260,12 @@ void inlet_report(std::size_t inlet_count, const engine::InletRecord& current_in
         platform::tell("No Inlets to display on Inlet Report!", platform::BoxKind::information);
         return;
     }
-    const auto target = choose_target(report);
+    const auto target = choose_target(report_file);
     if (!target) {
         return;
     }
     attempt([] { store::session.workingDirectory = platform::current_folder(); });
-    fill_copy_of_template(report, *target, [&](platform::Sheet& sheet) { fill(sheet, current_inlet); });
+    fill_copy_of_template(report_file, *target, [&](platform::Sheet& sheet) { fill(sheet, current_inlet); });
 }
 
 }  // namespace gullymark::reports

@@ -21,6 +21,10 @@ inline void PrintTo(Real number, std::ostream* out) {
     *out << number.number();
 }
 
+/// What a solver says that refuses its input.
+inline const platform::Box refusal_box{.kind = platform::BoxKind::warning,
+                                       .text = "No results computed.  Invalid input."};
+
 /// A fresh engine in ENGLISH units whose boxes are kept in `boxes`.
 class EngineTest : public testing::Test {
   protected:

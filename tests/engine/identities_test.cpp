@@ -15,7 +15,7 @@ namespace {
 
 using enum Column;
 
-struct Case {
+struct SolvedRow {
     std::string name;  // file and line
     cases::Table* table;
     std::vector<std::string> row;
@@ -24,9 +24,9 @@ struct Case {
 std::vector<cases::Table> tables;
 
 /// All rows of all tables.
-std::vector<Case> all_cases() {
+std::vector<SolvedRow> all_cases() {
     constexpr std::array names = {"ordinary", "boundary", "deep", "unreadable"};
-    std::vector<Case> found;
+    std::vector<SolvedRow> found;
     tables.clear();
     for (const auto* name : names) {
         tables.push_back(cases::read_table(GULLYMARK_TEST_DIR "/cases/solves_" + std::string(name) + ".tsv"));

@@ -18,7 +18,7 @@ class Frontal : public EngineTest {
     }
 };
 
-struct Row {
+struct GrateRow {
     const char* grate;
     const char* other;
     double short_15;  // Rf of a grate of 2 ft at 15 ft/s, by hand from c2 4 + c1 2 + c0
@@ -27,7 +27,7 @@ struct Row {
 };
 
 // clang-format off
-constexpr auto rows = std::to_array<Row>({
+constexpr auto rows = std::to_array<GrateRow>({
     {"P-1-7/8",           "P-50",                  0.3789883,  1.0,        23.93},
     {"P-1-1/8",           "P-30",                  0.2260009,  0.4087306,  21.31},
     {"Curved Vane",       "Curved Vane",           0.18549883, 0.32284,    21.31},

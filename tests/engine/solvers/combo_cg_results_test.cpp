@@ -10,8 +10,6 @@ namespace {
 
 using enum Column;
 
-const platform::Box refusal{.text = "No results computed.  Invalid input."};
-
 class ComboOnGrade : public EngineTest {
   protected:
     void SetUp() override {
@@ -119,7 +117,7 @@ TEST_F(ComboOnGrade, AnInputThatIsRefusedShowsABoxAndLeavesAllResultsEmpty) {
         boxes.clear();
         fill({{OPENSPREAD, "1"}, {column, value}});
         EXPECT_TRUE(check_and_solve());
-        EXPECT_EQ(boxes, std::vector{refusal}) << column_name(column) << ' ' << value;
+        EXPECT_EQ(boxes, std::vector{refusal_box}) << column_name(column) << ' ' << value;
         for (const auto result : {OPENSPREAD, WT, COMPXSLOPE, QINT, QCARRY, EFFICIENCY}) {
             EXPECT_EQ(text(result), "") << column_name(column) << ' ' << value;
         }
