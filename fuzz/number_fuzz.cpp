@@ -12,6 +12,7 @@
 #include <string_view>
 
 #include "platform/number_text.h"
+#include "target.h"
 
 namespace {
 

@@ -16,6 +16,7 @@
 #include "store/main_window.h"
 #include "store/project_details.h"
 #include "store/windows.h"
+#include "target.h"
 
 namespace {
 

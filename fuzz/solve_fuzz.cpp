@@ -17,6 +17,7 @@
 #include "engine/unit_constants.h"
 #include "platform/number_text.h"
 #include "platform/outside.h"
+#include "target.h"
 
 namespace {
 

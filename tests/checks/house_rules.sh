@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# What CONTRIBUTING tells of sources and no other check holds: short files, file names, a word on what each header is
-# for, and nothing left for later.
+# What CONTRIBUTING tells of sources and no other check holds: short files, file names, nothing included twice and no
+# source by another, a word on what each header is for, and nothing left for later.
 cd "$1" || exit 2
 failed=0
 complain() {
@@ -19,6 +19,11 @@ while read -r file; do
   [[ $base =~ ^[a-z0-9_]+\.[a-z]+$ || $base =~ ^[A-Z]+(_[A-Z]+)*_RESULTS\.|^Common_Libraries\. ]] ||
     complain "$file is not named in small letters"
 done < <(sources)
+
+twice=$(awk '/^#include .*(\.h"|>)$/ && seen[FILENAME, $0]++ { print FILENAME ": " $0 }' \
+  $(sources | grep -E '\.(cpp|h)$'))
+[ -z "$twice" ] || complain "included twice: $twice"
+joined=$(grep -nE '^#include .*\.cpp[">]' $(sources)) && complain "a source includes another: $joined"
 
 while read -r header; do
   head -n 1 "$header" | grep -q '^#pragma once$' || complain "$header does not begin with #pragma once"

@@ -1,25 +1,36 @@
 #!/usr/bin/env bash
-# clang-tidy over every source that is compiled. A source that was clean and has not changed since, nor any header, is
-# not looked at again.
+# clang-tidy over every source that is compiled; those that the build joins are looked at together. What was clean is not
+# looked at again until it or something that it includes has changed.
 # Tests and fuzz targets go without the path-sensitive checks: GoogleTest's macros make those take half a minute for a file.
 cd "$1" || exit 2
+top=$PWD
 build=$2
-stamps=$build/tidy
+stamps=$build/tidy/clean
 mkdir -p "$stamps"
-headers=$(cat .clang-tidy $(git ls-files '*.h' '*.def' 2>/dev/null || find src tests tools -name '*.h' -o -name '*.def') | sha256sum)
-export build stamps headers
+export top build stamps
 
+# look_at UNIT SUM
 look_at() {
-  local stamp checks=
+  local checks=-readability-duplicate-include # Of joined sources; house_rules holds it.
+  [ ! -e "$stamps/$2" ] || return 0
+  echo "$1" >>"$build/tidy/looked_at"
   case "$1" in
-    */tests/* | */fuzz/*) checks='-clang-analyzer-*,-bugprone-*,-cert-*,-misc-*,-modernize-raw-string-literal,-modernize-use-nodiscard' ;;
+    "$top"/tests/* | "$top"/fuzz/* | "$build"/tidy/tests/* | "$build"/tidy/fuzz/*)
+      checks+=',-clang-analyzer-*,-bugprone-*,-cert-*,-misc-*,-modernize-raw-string-literal,-modernize-use-nodiscard' ;;
   esac
-  stamp=$stamps/$( (echo "$headers"; echo "$1"; cat "$1") | sha256sum | cut -c1-32)
-  if [ ! -e "$stamp" ]; then
-    clang-tidy-14 --quiet --checks="$checks" -p "$build" "$1" 2>/dev/null && touch "$stamp"
-  fi
+  # Every function is looked at for itself, not only as its callers in the same unit use it.
+  clang-tidy-14 --quiet --checks="$checks" --config-file=.clang-tidy -p "$build/tidy" \
+    --extra-arg=-Xclang --extra-arg=-analyzer-inlining-mode=all "$1" 2>/dev/null |
+    perl tests/checks/tidiness_units.pl --findings "$1"
+  [ "${PIPESTATUS[0]}" -eq 0 ] || return 1
+  [ "$2" = unknown ] || touch "$stamps/$2"
 }
 export -f look_at
 
-grep -oE '"file": "[^"]+"' "$build/compile_commands.json" | cut -d'"' -f4 | sort -u |
-  grep -E "^$1/(src|tests|tools|bench|fuzz)/" | xargs -r -P "$(nproc)" -I{} bash -c 'look_at "$1"' _ {}
+units=$(perl tests/checks/tidiness_units.pl "$top" "$build") || exit 1
+[ -n "$units" ] || { echo "no source to look at"; exit 1; }
+: >"$build/tidy/looked_at"
+tr '\t' '\n' <<<"$units" | xargs -r -P "$(nproc)" -n 2 bash -c 'look_at "$@"' _
+status=$?
+echo "looked at $(wc -l <"$build/tidy/looked_at") of $(wc -l <<<"$units") sources"
+exit "$status"

@@ -21,9 +21,9 @@ inline void PrintTo(Real number, std::ostream* out) {
     *out << number.number();
 }
 
-/// What a solver says that refuses its input.
-inline const platform::Box refusal_box{.kind = platform::BoxKind::warning,
-                                       .text = "No results computed.  Invalid input."};
+/// What a solver says that refuses its input; some say it as a warning.
+inline const platform::Box refusal_box{.text = "No results computed.  Invalid input."};
+inline const platform::Box refusal_warning{.kind = platform::BoxKind::warning, .text = refusal_box.text};
 
 /// A fresh engine in ENGLISH units whose boxes are kept in `boxes`.
 class EngineTest : public testing::Test {

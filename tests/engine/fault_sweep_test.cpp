@@ -155,7 +155,7 @@ class FaultSweep : public EngineTest, public testing::WithParamInterface<Sheet> 
     void expect_solve_went_on(const std::vector<TraceLine>& tripped, int step) {
         if (GetParam().ends_at_first_fault) {
             EXPECT_EQ(tripped.back().step, step);
-            EXPECT_EQ(boxes, std::vector{refusal_box});
+            EXPECT_EQ(boxes, std::vector{refusal_warning});
             return;
         }
         EXPECT_TRUE(GetParam().last.contains(tripped.back().step)) << "ended at step " << tripped.back().step;

@@ -121,7 +121,7 @@ TEST_F(DitchInSump, AnyFaultEndsTheSolveWithABox) {
         boxes.clear();
         fill({{column, value}});
         EXPECT_TRUE(check_and_solve());
-        EXPECT_EQ(boxes, std::vector{refusal_box}) << column_name(column) << ' ' << value;
+        EXPECT_EQ(boxes, std::vector{refusal_warning}) << column_name(column) << ' ' << value;
         EXPECT_EQ(text(DEPTHATINLET), "") << column_name(column) << ' ' << value;
         EXPECT_TRUE(DataSolved);
     }
@@ -131,7 +131,7 @@ TEST_F(DitchInSump, WhatWasWrittenBeforeTheFaultStaysUnformatted) {
     onlooker.tripped_step = 18;
     fill({{GRATEAREA, "2.5"}, {TOTAL_DISCHARGE, "8"}});
     check_and_solve();
-    EXPECT_EQ(boxes, std::vector{refusal_box});
+    EXPECT_EQ(boxes, std::vector{refusal_warning});
     EXPECT_EQ(text(INLETPERF), "Weir Flow");
     EXPECT_EQ(text(RAREA), "2.5");
     EXPECT_EQ(text(RPERI), "");
