@@ -39,10 +39,12 @@ bool InletRecord::is_null(Column column) const {
 
 void InletRecord::set(Column column, std::string_view text) {
     auto& value = values_[index(column)];
-    if (value) {
-        value->assign(text);
-    } else {
+    if (!value) {
         value.emplace(text);
+    } else if (text.empty()) {  // half of all writes empty a result
+        value->clear();
+    } else {
+        value->assign(text);
     }
     if (!changed_) {
         changed_ = true;
