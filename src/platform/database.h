@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/database_journal.h"
+
 struct sqlite3;
 
 /// The project file as a database: a connection, statements sent as they stand, and row sets over one table.
@@ -21,9 +23,6 @@ struct DatabaseHandle;
 
 /// A text or null for each column of a row.
 using Row = std::vector<std::optional<std::string>>;
-
-/// What the engine calls the file beside a project from which it undoes a save that was cut short.
-inline constexpr const char* journal_ending = "-journal";
 
 class Connection {
   public:

@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "platform/characters.h"
-#include "platform/database.h"
 #include "platform/database_guard.h"
+#include "platform/database_journal.h"
 #include "platform/database_look.h"
 #include "platform/database_statements.h"
 #include "platform/failure.h"

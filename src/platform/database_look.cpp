@@ -11,7 +11,7 @@
 #include <optional>
 #include <string_view>
 
-#include "platform/database.h"
+#include "platform/database_journal.h"
 #include "platform/database_sqlite.h"
 #include "platform/failure.h"
 

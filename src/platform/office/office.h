@@ -5,17 +5,12 @@
 #include <atomic>
 #include <com/sun/star/frame/XDesktop2.hpp>
 #include <com/sun/star/uno/XComponentContext.hpp>
-#include <string>
+
+#include "platform/office/office_choice.h"
 
 /// The user's office: reached when it runs, started when it does not. All failures are platform::Failure, or an
 /// exception of the office itself.
 namespace gullymark::office {
-
-/// How the office is to be started. What a test says keeps it away from the user's office.
-struct OfficeChoice {
-    std::string profile;  // a folder of the test's own; empty for the user's profile
-    bool headless = false;
-};
 
 struct Office {
     OfficeChoice choice;

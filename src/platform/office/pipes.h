@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/office/office.h"
+#include "platform/office/office_choice.h"
 
 /// The pipes under which an office listens to us. They lie in a folder that every user of the machine can write to, so
 /// each has a name that nobody can take beforehand, and only this user's own are talked to.
