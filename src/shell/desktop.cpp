@@ -2,11 +2,14 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QEvent>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QStringList>
 #include <QTime>
 #include <QUrl>
@@ -68,10 +71,71 @@ QStringList name_filters(const std::string& filter) {
     return filters;
 }
 
+/// The toolkit's dialog takes what stands between two quotes for the name of a file, and drops all else: it chooses
+/// several files so. Here one is chosen, and a quote is a character of its name, but for quotes around the whole.
+class OneFileDialog : public QFileDialog {
+  public:
+    using QFileDialog::QFileDialog;
+
+    [[nodiscard]] QString chosen() const {
+        return typed_.isEmpty() && !selectedFiles().isEmpty() ? selectedFiles().constFirst() : typed_;
+    }
+
+    void accept() override {
+        QString text = line().text();
+        if (!text.contains('"')) {
+            QFileDialog::accept();
+            return;
+        }
+        if (text.size() > 2 && text.startsWith('"') && text.indexOf('"', 1) == text.size() - 1) {
+            text = text.mid(1, text.size() - 2);
+        }
+        const QFileInfo file(directory(), text);
+        if (file.isDir()) {
+            setDirectory(file.filePath());
+        } else if (fileMode() == ExistingFile && !file.exists()) {
+            QMessageBox::warning(this, windowTitle(),
+                                 text + "\nFile not found.\nPlease verify the correct file name was given.");
+        } else {
+            typed_ = QDir::cleanPath(file.absoluteFilePath());
+            QDialog::accept();
+        }
+    }
+
+    int exec() override {
+        connect(&line(), &QLineEdit::textChanged, this, [this] { offer_quoted(); });
+        button().installEventFilter(this);
+        return QFileDialog::exec();
+    }
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::EnabledChange && watched == &button()) {
+            offer_quoted();
+        }
+        return QFileDialog::eventFilter(watched, event);
+    }
+
+  private:
+    /// The toolkit's dialog looks for a file of another name, and disables its button when there is none.
+    void offer_quoted() const {
+        if (line().text().contains('"') && !button().isEnabled()) {
+            button().setEnabled(true);
+        }
+    }
+    [[nodiscard]] QLineEdit& line() const { return *findChild<QLineEdit*>("fileNameEdit"); }
+    [[nodiscard]] QPushButton& button() const {
+        const auto kind = acceptMode() == AcceptSave ? QDialogButtonBox::Save : QDialogButtonBox::Open;
+        return *findChild<QDialogButtonBox*>("buttonBox")->button(kind);
+    }
+
+    QString typed_;  // with a quote
+};
+
 std::optional<std::string> choose_file(const platform::FileDialogRequest& request) {
     show_all();
     count_modal_round();
-    QFileDialog dialog(QApplication::activeWindow(), QString::fromStdString(request.title));
+    OneFileDialog dialog(QApplication::activeWindow(), QString::fromStdString(request.title));
     // The desktops' own dialogs differ in whether they ask about overwriting; the flows ask themselves.
     dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
     dialog.setAcceptMode(request.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
@@ -82,10 +146,10 @@ std::optional<std::string> choose_file(const platform::FileDialogRequest& reques
     if (!request.file_name.empty()) {
         dialog.selectFile(QString::fromStdString(request.file_name));
     }
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    if (dialog.exec() != QDialog::Accepted || dialog.chosen().isEmpty()) {
         return std::nullopt;
     }
-    return QDir::toNativeSeparators(dialog.selectedFiles().constFirst()).toStdString();
+    return QDir::toNativeSeparators(dialog.chosen()).toStdString();
 }
 
 void open_help(const std::string& path) {

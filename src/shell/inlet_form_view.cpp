@@ -6,6 +6,7 @@
 #include "engine/unit_constants.h"
 #include "shell/copy_texts.h"
 #include "shell/inlet_items.h"
+#include "shell/small_screen.h"
 #include "shell/turn.h"
 #include "ui_inlet_form_view.h"
 
@@ -14,6 +15,7 @@ using editor::frminletMDIC;
 
 InletFormView::InletFormView(QWidget* parent) : QWidget(parent), ui_(new Ui::frminletMDIC) {
     ui_->setupUi(this);
+    scroll_pages(*ui_->SSTab1);
     order_tabs(*this);
 }
 

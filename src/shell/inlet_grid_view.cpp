@@ -6,6 +6,8 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScrollBar>
+#include <QStyle>
 
 #include "editor/inlet_grid.h"
 #include "editor/workspace.h"
@@ -27,6 +29,16 @@ InletGridView::InletGridView(QWidget* parent)
     set_up_rows(*this, *rows_);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     add_view([this] { show_state(); });
+}
+
+QSize InletGridView::minimumSizeHint() const {
+    const int widest_station =
+        fontMetrics().horizontalAdvance("0000+00") + 2 * style()->pixelMetric(QStyle::PM_HeaderMargin);
+    int width = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+    for (int column = 0; column < rows_->columnCount({}); ++column) {
+        width += std::max(widest_station, horizontalHeader()->sectionSizeHint(column));
+    }
+    return {width, QTableView::minimumSizeHint().height()};
 }
 
 void InletGridView::show_state() {

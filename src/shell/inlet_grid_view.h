@@ -11,6 +11,9 @@ class InletGridView : public QTableView {
   public:
     explicit InletGridView(QWidget* parent = nullptr);
 
+    /// Its columns stay wide enough to be read.
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
   protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     // A click or a key on the row that is marked already brings its inlet back to the first page too.

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include <QIcon>
+#include "shell/tool_icon.h"
 
 namespace gullymark::shell {
 namespace {
@@ -47,7 +47,7 @@ QKeySequence keys_of(std::string_view command) {
 
 void add_tool(QToolBar& bar, const char* command, const QString& icon) {
     auto* action = bar.window()->findChild<QAction*>(command);
-    action->setIcon(QIcon(QStringLiteral(":/icons/%1.svg").arg(icon)));
+    action->setIcon(tool_icon(icon));
     action->setIconVisibleInMenu(false);
     bar.addAction(action);
 }

@@ -1,6 +1,7 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
@@ -90,13 +91,14 @@ void put_content(const ScreenItem& item, QWidget& widget) {
 void put_colour(platform::Colour colour, QWidget& widget) {
     constexpr const char* shown = "shown_grey";
     const bool grey = colour == platform::Colour::grey;
-    if (widget.property(shown).toBool() != grey) {
+    const QVariant wanted = grey ? QVariant(QGuiApplication::palette().color(QPalette::Button)) : QVariant();
+    if (widget.property(shown) != wanted) {
         QPalette palette;
         if (grey) {
-            palette.setColor(QPalette::Base, palette.color(QPalette::Button));
+            palette.setColor(QPalette::Base, wanted.value<QColor>());
         }
         widget.setPalette(palette);
-        widget.setProperty(shown, grey);
+        widget.setProperty(shown, wanted);
     }
 }
 

@@ -6,6 +6,7 @@
 #include "editor/inlet_view.h"
 #include "shell/copy_texts.h"
 #include "shell/inlet_items.h"
+#include "shell/small_screen.h"
 #include "shell/turn.h"
 #include "ui_inlet_form_view.h"
 
@@ -15,6 +16,7 @@ using editor::frmviewinlet;
 
 RecordView::RecordView() : form_(new Ui::frminletMDIC) {
     form_->setupUi(this);
+    scroll_pages(*form_->SSTab1);
     order_tabs(*this);
     setObjectName("frmviewinlet");
     new Binder(*this, record_view_items());  // owned by the window

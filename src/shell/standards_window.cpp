@@ -70,6 +70,7 @@ StandardsList::StandardsList(const catalogue::Table& table, QWidget* parent)
     for (int row = 0; row < rowCount(); ++row) {
         show_row(row);
     }
+    colour_separators();
     resizeColumnsToContents();
     const int gap = 3 * fontMetrics().averageCharWidth();
     for (int column = 0; column < columnCount(); ++column) {
@@ -97,14 +98,29 @@ void StandardsList::show_row(int row) {
         auto* item = new QTableWidgetItem(text_of(fields.at(static_cast<std::size_t>(column))));
         item->setFlags(separator ? Qt::ItemIsEnabled : Qt::ItemIsEnabled | Qt::ItemIsSelectable);
         item->setTextAlignment(side_of(column) | Qt::AlignVCenter);
-        if (separator) {
-            item->setBackground(palette().brush(QPalette::Midlight));
-        } else if (column > 0) {
+        if (!separator && column > 0) {
             item->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
         }
         setItem(row, column, item);
     }
     setRowHeight(row, separator ? fontMetrics().height() / 3 : fontMetrics().height() + 6);
+}
+
+void StandardsList::colour_separators() {
+    for (int row = 0; row < rowCount(); ++row) {
+        for (int column = 0; column < columnCount(); ++column) {
+            if (catalogue::is_separator(table_.rows[static_cast<std::size_t>(row)])) {
+                item(row, column)->setBackground(palette().brush(QPalette::Midlight));
+            }
+        }
+    }
+}
+
+void StandardsList::changeEvent(QEvent* event) {
+    QTableWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        colour_separators();
+    }
 }
 
 const catalogue::Row& StandardsList::selected_row() const {

@@ -21,10 +21,12 @@ class StandardsList : public QTableWidget {
   protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void focusInEvent(QFocusEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     void show_headings();
     void show_row(int row);
+    void colour_separators();
 
     const catalogue::Table& table_;
     int columns_width_ = 0;  // that shows every heading and text whole

@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QIcon>
-#include <QPalette>
 #include <QProcess>
 #include <QSettings>
 
@@ -21,8 +20,10 @@
 #include "shell/details_view.h"
 #include "shell/list_view.h"
 #include "shell/main_view.h"
+#include "shell/readable_palette.h"
 #include "shell/record_view.h"
 #include "shell/renumber_view.h"
+#include "shell/small_screen.h"
 #include "shell/splash.h"
 #include "shell/standards_window.h"
 #include "shell/turn.h"
@@ -76,15 +77,6 @@ void fill_the_tables() {
     store::windows.end_program = [] { std::_Exit(EXIT_SUCCESS); };
 }
 
-/// What cannot be changed is still to be read: most of the form in "VIEW", and the results in every mode.
-void darken_disabled_texts() {
-    QPalette palette = QApplication::palette();
-    const QColor text(80, 80, 80);
-    palette.setColor(QPalette::Disabled, QPalette::Text, text);
-    palette.setColor(QPalette::Disabled, QPalette::WindowText, text);
-    QApplication::setPalette(palette);
-}
-
 /// The program keeps no settings; the toolkit's file dialog would keep its history.
 void keep_no_settings() {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QProcess::nullDevice());
@@ -97,7 +89,8 @@ void build_windows() {
     keep_no_settings();
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/application.svg")));
     QApplication::setQuitOnLastWindowClosed(false);
-    darken_disabled_texts();
+    keep_texts_readable();
+    keep_windows_on_screen();
     fill_the_tables();
     views.main = std::make_unique<MainView>();
     views.details = new DetailsView(views.main.get());

@@ -9,6 +9,7 @@ namespace {
 void show_text(QLabel& label, const QString& text) {
     if (label.text() != text) {
         label.setText(text);
+        label.setToolTip(text);
     }
 }
 
@@ -37,6 +38,7 @@ QLabel* StatusPanels::add(QStatusBar& bar, const QString& name, int stretch) {
     label->setTextFormat(Qt::PlainText);
     label->setFrameStyle(QFrame::Panel | QFrame::Sunken);
     label->setMargin(2);
+    label->setMinimumWidth(1);  // a long name is no reason for a wide window
     bar.addWidget(label, stretch);
     return label;
 }

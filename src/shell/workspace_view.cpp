@@ -4,6 +4,7 @@
 
 #include "editor/workspace.h"
 #include "shell/menus.h"
+#include "shell/tool_icon.h"
 #include "shell/turn.h"
 #include "ui_workspace_view.h"
 
@@ -38,8 +39,7 @@ void WorkspaceView::build_toolbar() {
         shown = button.index;
         const QString caption =
             QString::fromUtf8(button.caption.data(), static_cast<qsizetype>(button.caption.size()));
-        const QIcon icon(QStringLiteral(":/icons/%1.svg").arg(caption.toLower()));
-        QAction* action = ui_->Toolbar1->addAction(icon, caption);
+        QAction* action = ui_->Toolbar1->addAction(tool_icon(caption.toLower()), caption);
         action->setObjectName(QStringLiteral("Toolbar1_%1").arg(button.index));
         action->setCheckable(true);
         connect(action, &QAction::triggered, this,

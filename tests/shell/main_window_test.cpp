@@ -106,6 +106,39 @@ TEST(MainWindow, KeepsAFileThatIsNotToBeOverwritten) {
     EXPECT_EQ(testing_support::read_file(program.folder.path("old.gmk")), "precious");
 }
 
+TEST(MainWindow, APathTypedWithAQuoteGoesWhereItSays) {
+    for (const auto& [typed, file] : {std::pair("the \"old\" road", "the \"old\" road.gmk"),
+                                      {"\"half", "\"half.gmk"},
+                                      {"6\" pipe.gmk", "6\" pipe.gmk"}}) {
+        RunningProgram program;
+        program.create_project(typed, [](QWidget& form) {
+            activate(form);
+            testing_support::type(form, "P-1");
+            press(form, Qt::Key_Tab);
+            testing_support::type(form, "Oak Street");
+            press(form, Qt::Key_S, Qt::ControlModifier);
+        });
+        EXPECT_TRUE(QFileInfo::exists(QString::fromStdString(program.folder.path(file)))) << typed;
+        press(RunningProgram::window("MDIInlet"), Qt::Key_Q, Qt::ControlModifier);
+        activate(RunningProgram::main());
+        choose(RunningProgram::main(), "mnuFile", "mnucloseProj");
+        program.robot.boxes.clear();
+        program.robot.files.emplace_back(program.folder.path(file));
+        choose(RunningProgram::main(), "mnuFile", "mnuopenProj");
+        EXPECT_EQ(store::session.projectFilePath, program.folder.path(file));
+        EXPECT_EQ(store::session.projectName, "Oak Street");
+    }
+}
+
+TEST(MainWindow, QuotesAroundAWholePathAreNoneOfIt) {
+    RunningProgram program;
+    program.robot.files.emplace_back('"' + program.folder.path("copied road.gmk") + '"');
+    program.robot.in_window.emplace_back(
+        [](QWidget& details) { press(details, Qt::Key_Q, Qt::ControlModifier); });
+    choose(RunningProgram::main(), "mnuFile", "mnucreateProj");
+    EXPECT_TRUE(QFileInfo::exists(QString::fromStdString(program.folder.path("copied road.gmk"))));
+}
+
 TEST(MainWindow, TellsACancelledOpen) {
     RunningProgram program;
     program.robot.files.emplace_back(std::nullopt);

@@ -84,6 +84,9 @@ class Robot {
     /// What to do in the next modal windows that are neither.
     std::deque<std::function<void(QWidget&)>> in_window;
 
+    /// Is shown everything modal before it is served.
+    std::function<void(QWidget&)> look_at;
+
     // Where one is set it is asked in place of its queue.
     std::function<platform::Answer(const platform::Box&)> ask_box;
     std::function<std::optional<std::string>()> ask_file;
@@ -111,6 +114,9 @@ class Robot {
             return;
         }
         QWidget* outer = std::exchange(served_, window);
+        if (look_at) {
+            look_at(*window);
+        }
         if (auto* box = qobject_cast<QMessageBox*>(window)) {
             answer(*box);
         } else if (auto* dialog = qobject_cast<QFileDialog*>(window)) {

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <QAccessible>
 #include <QComboBox>
 #include <QTabWidget>
 #include <QTableView>
@@ -178,6 +179,15 @@ TEST(Workspace, EveryFieldHasANameForAReaderAndATipWithItsUnit) {
         EXPECT_TRUE(labelled) << name.toStdString();
     }
     EXPECT_EQ(line("txtSpread").toolTip(), "Spread of water at the opening (ft)");
+    road.leave();
+}
+
+TEST(Workspace, BothSidesOfTheFlowHaveTheirNamesForAScreenReader) {
+    NewRoad road;
+    for (const auto& [frame, side] : {std::pair("discharge1_frame", "LEFT"), {"discharge2_frame", "RIGHT"}}) {
+        auto* widget = workspace().findChild<QWidget*>(frame);
+        EXPECT_EQ(QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name), side);
+    }
     road.leave();
 }
 
