@@ -91,11 +91,10 @@ Designer::Designer(const std::string& program_folder) {
         }
         store::frmProject.visible = false;
     };
-    platform::spreadsheet.open = [](const std::string&, platform::SheetChoice) {
-        return platform::SheetContent();
+    platform::spreadsheet.open = [](const platform::SheetFile&) { return platform::SheetContent(); };
+    platform::spreadsheet.hand_over = [this](const platform::SheetFile&, const platform::Filling& filling) {
+        sheet = filling.cells;
     };
-    platform::spreadsheet.hand_over = [this](const std::string&, platform::SheetChoice,
-                                             const platform::Cells& cells) { sheet = cells; };
     platform::set_program_folder(program_folder);
     store::load_main_window();
     store::frmsoftwaremain.visible = true;
