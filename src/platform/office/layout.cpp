@@ -1,6 +1,7 @@
 #include "platform/office/layout.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/container/XIndexAccess.hpp>
@@ -12,6 +13,8 @@
 #include <com/sun/star/util/XNumberFormats.hpp>
 #include <com/sun/star/util/XNumberFormatsSupplier.hpp>
 
+#include <thread>
+
 #include "platform/office/texts.h"
 
 namespace gullymark::office {
@@ -21,6 +24,9 @@ namespace star = com::sun::star;
 using star::uno::Any;
 using star::uno::Reference;
 using star::uno::UNO_QUERY_THROW;
+
+constexpr int tries_to_freeze = 40;
+constexpr std::chrono::milliseconds pause_between_tries(50);
 
 class Formats {
   public:
@@ -121,7 +127,11 @@ void keep_rows_together(const Workbook& workbook, const std::vector<platform::Ro
 void freeze(const Workbook& workbook, int rows, int columns) {
     const Reference<star::sheet::XViewFreezable> view(workbook.model->getCurrentController(),
                                                       UNO_QUERY_THROW);
-    view->freezeAtPosition(columns, rows);
+    // The office splits the window by its size, which it has some time after it is shown.
+    for (int tries = 0; tries < tries_to_freeze && !view->hasFrozenPanes(); ++tries) {
+        std::this_thread::sleep_for(pause_between_tries);
+        view->freezeAtPosition(columns, rows);
+    }
 }
 
 }  // namespace gullymark::office

@@ -15,7 +15,7 @@ void align_decimals(const Workbook& workbook, int heading_rows, const platform::
 /// Ends pages earlier where one would end between rows that belong together. Rows count from 1.
 void keep_rows_together(const Workbook& workbook, const std::vector<platform::RowRange>& kept_rows);
 
-/// So many rows above and columns on the left stay in sight while the rest scrolls.
+/// So many rows above and columns on the left stay in sight while the rest scrolls. For a workbook that is shown.
 void freeze(const Workbook& workbook, int rows, int columns);
 
 }  // namespace gullymark::office

@@ -116,11 +116,15 @@ void lay_out() {
     }
 }
 
-// The office splits a window by its size, which one that is not shown does not have.
+// It is shown, whatever becomes of this.
 void freeze_heading() {
     const platform::SheetFile& file = bridge().file;
-    if (file.frozen_rows > 0 || file.frozen_columns > 0) {
-        office::freeze(workbook(), file.frozen_rows, file.frozen_columns);
+    try {
+        if (file.frozen_rows > 0 || file.frozen_columns > 0) {
+            office::freeze(workbook(), file.frozen_rows, file.frozen_columns);
+        }
+    } catch (const com::sun::star::uno::Exception&) {
+        // The user has closed it already.
     }
 }
 
@@ -128,7 +132,8 @@ void show() {
     answers().promise(bridge().limit);
     office::write_cells(workbook(), bridge().asked.cells, bridge().held.cells);
     lay_out();
-    office::show_workbook(bridge().office, workbook(), freeze_heading);
+    office::show_workbook(bridge().office, workbook());
+    freeze_heading();
     answer(platform::join_line({"shown"}));
 }
 

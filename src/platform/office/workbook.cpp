@@ -29,7 +29,6 @@
 #include <condition_variable>
 #include <cppuhelper/implbase1.hxx>
 #include <filesystem>
-#include <functional>
 #include <mutex>
 #include <rtl/ref.hxx>
 
@@ -212,19 +211,13 @@ Reference<star::frame::XModel> load_under_name(const Office& office, const std::
 // Called back by the office on its own main thread; from any other, showing a window may wait for ever.
 class ShowWindow : public cppu::WeakImplHelper1<star::awt::XCallback> {
   public:
-    ShowWindow(const Reference<star::awt::XWindow>& window, std::function<void()> then)
-        : window_(window), then_(std::move(then)) {}
+    explicit ShowWindow(const Reference<star::awt::XWindow>& window) : window_(window) {}
 
     void SAL_CALL notify(const Any& /*nothing*/) override {
         window_->setVisible(true);
         const Reference<star::awt::XTopWindow> top(window_, star::uno::UNO_QUERY);
         if (top.is()) {
             top->toFront();
-        }
-        try {
-            then_();
-        } catch (const star::uno::Exception&) {
-            // It is shown, which counts.
         }
         const std::lock_guard lock(mutex_);
         done_ = true;
@@ -238,7 +231,6 @@ class ShowWindow : public cppu::WeakImplHelper1<star::awt::XCallback> {
 
   private:
     Reference<star::awt::XWindow> window_;
-    std::function<void()> then_;
     std::mutex mutex_;
     std::condition_variable changed_;
     bool done_ = false;
@@ -284,10 +276,10 @@ void write_cells(const Workbook& workbook, const platform::Cells& cells, const p
     }
 }
 
-void show_workbook(const Office& office, const Workbook& workbook, const std::function<void()>& then) {
+void show_workbook(const Office& office, const Workbook& workbook) {
     view_of(workbook)->setActiveSheet(workbook.sheet);
     const auto window = workbook.model->getCurrentController()->getFrame()->getContainerWindow();
-    const rtl::Reference<ShowWindow> show(new ShowWindow(window, then));
+    const rtl::Reference<ShowWindow> show(new ShowWindow(window));
     const Reference<star::awt::XRequestCallback> main_thread(
         office.context->getServiceManager()->createInstanceWithContext("com.sun.star.awt.AsyncCallback",
                                                                        office.context),

@@ -2,7 +2,6 @@
 
 #include <com/sun/star/frame/XModel.hpp>
 #include <com/sun/star/sheet/XSpreadsheet.hpp>
-#include <functional>
 #include <string>
 
 #include "platform/office/office.h"
@@ -30,9 +29,8 @@ platform::SheetContent read_content(const Workbook& workbook);
 /// gets the office's own format of a date where its cell has none.
 void write_cells(const Workbook& workbook, const platform::Cells& cells, const platform::Cells& kept);
 
-/// Shows the workbook to the user, with the sheet in front; from then on it is the user's. `then` runs when its window is
-/// there; what fails in it is passed over.
-void show_workbook(const Office& office, const Workbook& workbook, const std::function<void()>& then);
+/// Shows the workbook to the user, with the sheet in front; from then on it is the user's.
+void show_workbook(const Office& office, const Workbook& workbook);
 
 /// Saves it under its own name. One without a name is an exception of the office.
 void save(const Workbook& workbook);

@@ -206,6 +206,16 @@ TEST_F(RealOffice, RowsThatBelongTogetherDoNotPartAtTheEndOfAPage) {
     EXPECT_GT(breaks, 0) << "no page would have parted three rows";
 }
 
+TEST_F(RealOffice, TheHeadingOfATableStaysInSight) {
+    const SheetFile file{.path = target, .frozen_rows = 5, .frozen_columns = 2};
+    static_cast<void>(spreadsheet.open(file));
+    spreadsheet.hand_over(file, {.cells = {{{6, 1}, 1.5}}});
+    const auto pane = numbers_of_record(testing_support::read_file(saved), 0x0041, 10);
+    ASSERT_FALSE(pane.empty());
+    EXPECT_EQ(pane[0], 2);
+    EXPECT_EQ(pane[1], 5);
+}
+
 // What cannot be opened under its name.
 
 struct UnnamedWorkbook : RealOffice {
