@@ -1,6 +1,8 @@
 #pragma once
 
 #include <stdexcept>
+#include <string>
+#include <system_error>
 
 namespace gullymark::platform {
 
@@ -9,5 +11,10 @@ class Failure : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
 };
+
+/// Fails with the system's words for an error number, and the path that it befell.
+[[noreturn]] inline void fail(int error, const std::string& path) {
+    throw Failure(std::generic_category().message(error) + ": " + path);
+}
 
 }  // namespace gullymark::platform

@@ -24,10 +24,6 @@ std::string& program_folder_set() {
 
 namespace fs = std::filesystem;
 
-[[noreturn]] void fail(int error, const std::string& path) {
-    throw Failure(std::generic_category().message(error) + ": " + path);
-}
-
 /// A link stays a link: what it leads to is replaced.
 fs::path end_of_links(const std::string& path) {
     std::error_code error;

@@ -24,10 +24,6 @@ namespace {
 /// What the engine keeps beside a file: what to undo in it, and what to do yet.
 constexpr std::array<const char*, 2> journal_endings{"-journal", "-wal"};
 
-[[noreturn]] void fail(int error, const std::string& path) {
-    throw Failure(std::generic_category().message(error) + ": " + path);
-}
-
 /// Whether something has that name, as a file, a link or a folder. A name that is too long is a failure: there could be
 /// no journal, and nothing could be saved.
 bool is_there(const std::string& path) {
