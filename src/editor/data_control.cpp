@@ -9,6 +9,10 @@ namespace gullymark::editor {
 void DataControl::open(const std::string& statement) {
     rows = platform::RowSet();
     connection = platform::Connection();
+    // What the project's own connection refused is not read by the way of a list's.
+    if (!store::project_store.connection.is_open()) {
+        throw platform::Failure("the project file is not open");
+    }
     connection.open(store::session.projectFilePath);
     if (store::project_store.connection.refuses_writes()) {
         connection.refuse_writes();

@@ -52,6 +52,9 @@ void Connection::check() {
         case Soundness::damaged:
             refuse_writes();
             throw Failure(std::string(sqlite3_errstr(SQLITE_CORRUPT)) + ": nothing is stored in it");
+        case Soundness::too_long:
+            refuse_writes();
+            throw Failure("the file holds a text that is too long for a project: nothing is stored in it");
         case Soundness::endless:
             close_handle();
             throw Failure("the file cannot be read: it is damaged, or too large for a project");

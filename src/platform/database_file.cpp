@@ -166,10 +166,17 @@ Soundness examine(sqlite3* file) {
         return query.step() && query.text(0) == "ok" ? Soundness::sound : Soundness::damaged;
     } catch (const Failure&) {
         const int reason = sqlite3_errcode(file) & 0xff;
-        if (reason == SQLITE_INTERRUPT) {
-            return Soundness::endless;
+        switch (reason) {
+            case SQLITE_INTERRUPT:
+                return Soundness::endless;
+            case SQLITE_TOOBIG:
+                return Soundness::too_long;
+            case SQLITE_BUSY:
+            case SQLITE_NOMEM:
+                return Soundness::unknown;
+            default:
+                return Soundness::damaged;
         }
-        return reason == SQLITE_BUSY || reason == SQLITE_NOMEM ? Soundness::unknown : Soundness::damaged;
     }
 }
 

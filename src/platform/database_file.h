@@ -14,10 +14,10 @@ namespace gullymark::platform {
 void open_project(DatabaseHandle& handle, const std::string& path);
 
 /// What a reading of the whole file finds.
-enum class Soundness { sound, damaged, unknown, endless };
+enum class Soundness { sound, damaged, too_long, endless, unknown };
 
-/// `unknown` for a file that cannot be looked at now, since another program saves into it or the memory is used up;
-/// `endless` where the time for one statement is used up.
+/// `too_long` where a row is larger than one of a project can be, `endless` where the time for one statement is used up;
+/// `unknown` for a file that cannot be looked at now, since another program saves into it or the memory is used up.
 Soundness examine(sqlite3* file);
 
 }  // namespace gullymark::platform
