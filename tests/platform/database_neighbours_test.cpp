@@ -26,9 +26,9 @@ using gullymark::testing_support::small_project;
 using gullymark::testing_support::TempFolder;
 using gullymark::testing_support::write_file;
 
-constexpr const char* mark = "\xd9\xd5\x05\xf9\x20\xa1\x63\xd7";
+constexpr const char* journal_start = "\xd9\xd5\x05\xf9\x20\xa1\x63\xd7";
 
-std::string number(std::uint32_t value) {
+std::string four_bytes(std::uint32_t value) {
     std::string bytes;
     for (const int shift : {24, 16, 8, 0}) {
         bytes += static_cast<char>((value >> static_cast<unsigned>(shift)) & 0xffU);
@@ -45,8 +45,8 @@ std::string super_journal_record(const std::string& name) {
     for (const char letter : name) {
         sum += static_cast<std::uint32_t>(static_cast<int>(static_cast<signed char>(letter)));
     }
-    return number(0x40000000 / 4096 + 1) + name + number(static_cast<std::uint32_t>(name.size())) +
-           number(sum) + mark;
+    return four_bytes(0x40000000 / 4096 + 1) + name + four_bytes(static_cast<std::uint32_t>(name.size())) +
+           four_bytes(sum) + journal_start;
 }
 
 struct NeighboursTest : testing::Test {
@@ -101,7 +101,8 @@ TEST_F(NeighboursTest, AJournalThatNamesAnotherFileDeletesNothing) {
 
 TEST_F(NeighboursTest, AJournalThatNothingButNamesAnotherFileDeletesNothing) {
     write_file(folder.path("other.txt"), other_file);
-    const std::string header = mark + number(0) + number(0) + number(1) + number(512) + number(4096);
+    const std::string header =
+        journal_start + four_bytes(0) + four_bytes(0) + four_bytes(1) + four_bytes(512) + four_bytes(4096);
     write_file(journal, header + std::string(512 - header.size(), '\0') +
                             super_journal_record(folder.path("other.txt")));
     expect_refused_untouched("the journal beside the file names another file to delete: road.gmk-journal");
@@ -247,8 +248,8 @@ TEST_F(NeighboursTest, AnEmptyJournalAndAZeroedOneAreNoHindrance) {
 }
 
 TEST_F(NeighboursTest, AJournalThatTellsOfAnEndlessFileIsRefused) {
-    const std::string header =
-        mark + number(1) + number(0) + number(0xffffffff) + number(512) + number(65536);
+    const std::string header = journal_start + four_bytes(1) + four_bytes(0) + four_bytes(0xffffffff) +
+                               four_bytes(512) + four_bytes(65536);
     write_file(journal, header + std::string(512 - header.size(), '\0') + std::string(70000, '\1'));
     expect_refused_untouched("the journal beside the file belongs to another file: road.gmk-journal");
 }
