@@ -38,9 +38,14 @@ constexpr PreviousInlet right_inlet{2,
                                     "Previous Inlet for right side CANNOT be same as left side!",
                                     {"PREINLET2", "PREINLET1"}};
 
+/// True after telling that it is, or that this cannot be read.
 bool is_used_elsewhere(const PreviousInlet& previous, const std::string& number) {
     for (const std::string_view column : previous.usage_columns) {
-        if (store::CheckInletUsage(number, column)) {
+        const auto usage = store::find_inlet_usage(number, column);
+        if (usage == store::InletUsage::unread) {
+            return true;
+        }
+        if (usage == store::InletUsage::a_row) {
             tell("This Inlet has already been used as a Previous Inlet for Inlet - " +
                      store::session.ReferencingInletNumber + " - Please choose a different value!",
                  BoxKind::warning);

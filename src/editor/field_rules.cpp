@@ -88,9 +88,12 @@ void Inlet_Number_LostFocus() {
     if (number.empty()) {
         tell("Please enter a valid unique Inlet Number!", BoxKind::information);
         frminletMDIC.wanted_focus = Inlet_Number;
-    } else if (store::CheckInletUsage(number, "INLET_NUMBER")) {
-        tell(number + " already exists in the database! Please enter a valid unique Inlet Number",
-             BoxKind::warning);
+    } else if (const auto usage = store::find_inlet_usage(number, "INLET_NUMBER");
+               usage != store::InletUsage::no_row) {
+        if (usage == store::InletUsage::a_row) {
+            tell(number + " already exists in the database! Please enter a valid unique Inlet Number",
+                 BoxKind::warning);
+        }
         set_text(Inlet_Number, "");
         frminletMDIC.wanted_focus = Inlet_Number;
     }

@@ -20,7 +20,7 @@ namespace {
 using engine::DataSolved;
 using platform::BoxKind;
 using platform::tell;
-using store::CheckInletUsage;
+using store::InletUsage;
 using enum FieldId;
 
 // clang-format off
@@ -60,13 +60,14 @@ void requery_inlets() {
     attach_inlet_datasource();
 }
 
-/// The inlet downstream, if `CheckInletUsage` finds one that names this number.
-bool feeds_another(const std::string& number) {
-    return CheckInletUsage(number, "PREINLET1") || CheckInletUsage(number, "PREINLET2");
+/// Whether another inlet names this number as its previous inlet; `session.ReferencingInletNumber` is that one.
+InletUsage feeds_another(const std::string& number) {
+    const auto left = store::find_inlet_usage(number, "PREINLET1");
+    return left == InletUsage::no_row ? store::find_inlet_usage(number, "PREINLET2") : left;
 }
 
 void tell_inlet_downstream() {
-    if (feeds_another(text(Inlet_Number))) {
+    if (feeds_another(text(Inlet_Number)) == InletUsage::a_row) {
         const std::string& next = store::session.ReferencingInletNumber;
         tell("Current Inlet has Carryover Discharge to Inlet Number - " + next +
                  "\r\nPlease review the design, solve & save the results for Inlet - " + next,
@@ -208,7 +209,11 @@ void current_record_delete() {
     if (!platform::ask("Delete Current Inlet - " + number + " ?")) {
         return;
     }
-    if (feeds_another(number)) {
+    const auto usage = feeds_another(number);
+    if (usage == InletUsage::unread) {
+        return;  // it was told; an inlet that others may name stays
+    }
+    if (usage == InletUsage::a_row) {
         tell("Current Inlet has Carryover Discharge to Inlet Number - " +
                  store::session.ReferencingInletNumber + " - Delete Denied!",
              BoxKind::warning);

@@ -9,11 +9,15 @@
 namespace gullymark::editor {
 namespace {
 
-/// True when the inlet feeds another by that column and the user does not want to go on. `feeds` tells that it does.
-bool user_declines(std::string_view column, bool& feeds) {
-    feeds = store::CheckInletUsage(frminletmodify.thisinletnumber.text, column);
-    return feeds && !platform::ask("Current Inlet has Carryover Discharge to Inlet Number - " +
-                                   store::session.ReferencingInletNumber + " - Modify Anyway?");
+using store::InletUsage;
+
+/// True when the inlet feeds another by that column and the user does not want to go on, and when that cannot be read.
+bool user_declines(std::string_view column, InletUsage& usage) {
+    usage = store::find_inlet_usage(frminletmodify.thisinletnumber.text, column);
+    return usage == InletUsage::unread ||
+           (usage == InletUsage::a_row &&
+            !platform::ask("Current Inlet has Carryover Discharge to Inlet Number - " +
+                           store::session.ReferencingInletNumber + " - Modify Anyway?"));
 }
 
 }  // namespace
@@ -37,14 +41,14 @@ void edit_new_number(std::string_view text) {
 
 void cmdmodaccept_Click() {
     std::string& new_number = frminletmodify.newinletnumber.text;
-    if (store::CheckInletUsage(new_number, "INLET_NUMBER")) {
+    const auto taken = store::find_inlet_usage(new_number, "INLET_NUMBER");
+    if (taken == InletUsage::a_row) {
         platform::tell("New Inlet already exist in the database. Choose another Inlet Number",
                        platform::BoxKind::warning);
-        new_number.clear();
-        return;
     }
-    bool feeds = false;
-    if (user_declines("PREINLET1", feeds) || (!feeds && user_declines("PREINLET2", feeds))) {
+    InletUsage feeds = InletUsage::no_row;
+    if (taken != InletUsage::no_row || user_declines("PREINLET1", feeds) ||
+        (feeds == InletUsage::no_row && user_declines("PREINLET2", feeds))) {
         new_number.clear();
         return;
     }

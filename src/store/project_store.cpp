@@ -56,9 +56,13 @@ std::array<std::string, 3> renumber_inlet(std::string_view new_number, std::stri
 }
 
 bool CheckInletUsage(std::string_view inlet_number, std::string_view word) {
+    return find_inlet_usage(inlet_number, word) == InletUsage::a_row;
+}
+
+InletUsage find_inlet_usage(std::string_view inlet_number, std::string_view word) {
     const std::string statement = usage_statement(inlet_number, word);
     if (statement.empty()) {
-        return false;
+        return InletUsage::no_row;
     }
     const bool names_previous_inlet = word != "INLET_NUMBER";
     if (names_previous_inlet) {
@@ -68,15 +72,15 @@ bool CheckInletUsage(std::string_view inlet_number, std::string_view word) {
         platform::RowSet inlets;
         inlets.open(project_store.connection, statement);
         if (inlets.record_count() == 0) {
-            return false;
+            return InletUsage::no_row;
         }
         if (names_previous_inlet) {
             session.ReferencingInletNumber = inlets.value("INLET_NUMBER").value_or("");
         }
-        return true;
+        return InletUsage::a_row;
     } catch (const platform::Failure& failure) {
         platform::tell(failure.what());
-        return false;
+        return inlet_number.find('\'') == std::string_view::npos ? InletUsage::unread : InletUsage::no_row;
     }
 }
 

@@ -45,4 +45,9 @@ inline constexpr const char* select_grid =
 /// On failure: a plain box with its description, and false.
 bool CheckInletUsage(std::string_view inlet_number, std::string_view word);
 
+/// The same for who must not take a file that could not be read for one without such a row: `unread`, after the box. A
+/// number that breaks the statement is nobody's that could be asked for, and reads as `no_row`.
+enum class InletUsage { no_row, a_row, unread };
+InletUsage find_inlet_usage(std::string_view inlet_number, std::string_view word);
+
 }  // namespace gullymark::store

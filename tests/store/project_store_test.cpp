@@ -170,6 +170,17 @@ TEST_F(CheckInletUsageTest, AnApostropheInANumberShowsTheStoresError) {
     EXPECT_EQ(session.ReferencingInletNumber, "");
 }
 
+TEST_F(CheckInletUsageTest, AFileThatCannotBeReadIsNotTakenForOneWithoutTheRow) {
+    using enum gullymark::store::InletUsage;
+    using gullymark::store::find_inlet_usage;
+    EXPECT_EQ(find_inlet_usage("10", "INLET_NUMBER"), a_row);
+    EXPECT_EQ(find_inlet_usage("100", "INLET_NUMBER"), no_row);
+    EXPECT_EQ(find_inlet_usage("o'clock", "INLET_NUMBER"), no_row);
+    project_store.connection.close();
+    EXPECT_EQ(find_inlet_usage("10", "INLET_NUMBER"), unread);
+    EXPECT_EQ(find_inlet_usage("10", "PREINLET2"), unread);
+}
+
 TEST_F(CheckInletUsageTest, WithoutAnOpenConnectionItShowsThatAndFindsNothing) {
     project_store.connection.close();
     EXPECT_FALSE(CheckInletUsage("2", "INLET_NUMBER"));
