@@ -1,5 +1,6 @@
 #include <array>
 #include <string>
+#include <vector>
 
 #include "engine/inlet_row.h"
 #include "engine/words.h"
@@ -193,16 +194,40 @@ int write_inlet(platform::Sheet& sheet, int row, const engine::InletRecord& inle
     return sump ? 3 : 1;
 }
 
-void fill(platform::Sheet& sheet, platform::RowSet& rows) {
-    attempt([&] { rows.move_first(); });
+void open_inlets(platform::RowSet& rows) {
+    rows.open(store::project_store.connection, store::select_inlets);
+}
+
+/// The inlets of the file in their order. One that was deleted since the set was opened is passed over. One that cannot be
+/// read, for the file is locked, is a failure: a form without it would look complete.
+std::vector<engine::InletRecord> read_inlets(platform::RowSet& rows) {
+    std::vector<engine::InletRecord> inlets;
+    if (!store::project_store.connection.is_open()) {
+        return inlets;
+    }
+    if (!rows.is_open()) {
+        open_inlets(rows);
+    }
+    for (std::size_t index = 0; !rows.at_end(); rows.move_next(), ++index) {
+        engine::InletRecord inlet;
+        try {
+            load_row(rows, inlet);
+            inlets.push_back(inlet);
+        } catch (const platform::Failure&) {
+            if (rows.all_values("INLET_NUMBER").at(index)) {
+                throw;
+            }
+        }
+    }
+    return inlets;
+}
+
+void fill(platform::Sheet& sheet, const std::vector<engine::InletRecord>& inlets) {
     write_cells(sheet, 0, header, {});
     attempt([&] {
-        for (int row = first_row; !rows.at_end(); rows.move_next()) {
-            attempt([&] {
-                engine::InletRecord inlet;
-                load_row(rows, inlet);
-                row += write_inlet(sheet, row, inlet);
-            });
+        int row = first_row;
+        for (const auto& inlet : inlets) {
+            row += write_inlet(sheet, row, inlet);
         }
     });
 }
@@ -215,12 +240,15 @@ void InletDesignForm(std::size_t inlet_count) {
         return;
     }
     platform::RowSet rows;
-    attempt([&] { rows.open(store::project_store.connection, "SELECT * FROM INLET ORDER BY INLET_NUMBER"); });
+    attempt([&] { open_inlets(rows); });
     const auto target = choose_target(form_file);
     if (!target) {
         return;
     }
-    fill_copy_of_template(form_file, *target, [&](platform::Sheet& sheet) { fill(sheet, rows); });
+    attempt([&] {
+        const auto inlets = read_inlets(rows);
+        fill_copy_of_template(form_file, *target, [&](platform::Sheet& sheet) { fill(sheet, inlets); });
+    });
     attempt([&] { rows.close(); });
 }
 

@@ -44,7 +44,7 @@ void act_on_failing_disk(const Site& site, const Deed& deed, CallFailure failure
     deed.act(designer, site, 0);
 }
 
-void judge(const Site& site, const Rehearsal& rehearsal, Outcome& outcome, const std::string& round) {
+void judge_site(const Site& site, const Rehearsal& rehearsal, Outcome& outcome, const std::string& round) {
     const State state = state_of(site);
     const auto found = std::ranges::find(rehearsal.states, state);
     if (found == rehearsal.states.end()) {
@@ -82,13 +82,13 @@ Outcome fail_each_call(const Site& site, const Deed& deed, CallFailure failure) 
     const auto fail_call = [&](int call, Outcome& told) {
         told.count("runs");
         act_on_failing_disk(site, deed, failure, call);
-        judge(site, rehearsal, told, round(call));
+        judge_site(site, rehearsal, told, round(call));
     };
     const auto kill_in_change = [&](int change, Outcome& told) {
         if (rehearsal.disk.kind_of(static_cast<std::size_t>(change)) != CallKind::sync) {
             told.count("runs");
             rehearsal.disk.kill_writer(static_cast<std::size_t>(change));
-            judge(site, rehearsal, told, round(change));
+            judge_site(site, rehearsal, told, round(change));
         }
     };
     if (failure == CallFailure::killed) {

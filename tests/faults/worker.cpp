@@ -11,14 +11,14 @@
 namespace gullymark::faults {
 namespace {
 
-constexpr rlim_t most_seconds = 10;
+constexpr rlim_t seconds_each = 10;
 
 /// This process may take so much processor time from now on.
 void allow_time() {
     rusage used{};
     getrusage(RUSAGE_SELF, &used);
     const auto seconds = static_cast<rlim_t>(used.ru_utime.tv_sec + used.ru_stime.tv_sec);
-    const rlimit limit{seconds + most_seconds, RLIM_INFINITY};
+    const rlimit limit{seconds + seconds_each, RLIM_INFINITY};
     setrlimit(RLIMIT_CPU, &limit);
 }
 

@@ -100,15 +100,44 @@ TEST_F(DesignForm, AnInletDeletedMeanwhileIsPassedOver) {
     add("1", on_grade);
     add("2", on_grade);
     add("3", on_grade);
-    platform::spreadsheet.open = [this](const platform::SheetFile& file) {
-        spreadsheet.file = file;
+    platform::outside.choose_file = [this](const platform::FileDialogRequest& /*request*/) {
         run_sql(project, "DELETE FROM INLET WHERE INLET_NUMBER = '2'");
-        return platform::SheetContent();
+        return target;
     };
     InletDesignForm(3);
     EXPECT_EQ(at(15, 1), CellValue(1.0));
     EXPECT_EQ(at(16, 1), CellValue(3.0));
     EXPECT_EQ(at(17, 1), nothing);
+}
+
+TEST_F(DesignForm, NothingIsShownWhileAnotherProgramKeepsTheInletsFromBeingRead) {
+    add("1", on_grade);
+    add("2", on_grade);
+    sqlite3* other = nullptr;
+    sqlite3_open(project.c_str(), &other);
+    platform::outside.choose_file = [&](const platform::FileDialogRequest& /*request*/) {
+        sqlite3_exec(other, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
+        return target;
+    };
+    InletDesignForm(2);
+    EXPECT_TRUE(spreadsheet.opened.empty());
+    EXPECT_FALSE(std::filesystem::exists(target));
+    sqlite3_close(other);
+    InletDesignForm(2);
+    EXPECT_EQ(at(16, 1), CellValue(2.0));
+}
+
+TEST_F(DesignForm, InletsThatCouldNotBeReadAtFirstAreReadBehindTheDialog) {
+    add("1", on_grade);
+    sqlite3* other = nullptr;
+    sqlite3_open(project.c_str(), &other);
+    sqlite3_exec(other, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
+    platform::outside.choose_file = [&](const platform::FileDialogRequest& /*request*/) {
+        sqlite3_close(other);
+        return target;
+    };
+    InletDesignForm(1);
+    EXPECT_EQ(at(15, 1), CellValue(1.0));
 }
 
 TEST_F(DesignForm, WithoutASpreadsheetTheCopyIsMadeAndNothingIsShown) {
