@@ -59,6 +59,53 @@ TEST_F(CurbOnGrade, ASpreadEqualToTheGutterWidthHasAllFlowWithinIt) {
     EXPECT_EQ(open_inlet.text(Column::FLOWRATIO), "1.000");
 }
 
+TEST_F(CurbOnGrade, AGutterExactlyAsWideAsTheSpreadOnOneSlopeHasAllFlowWithinIt) {
+    // n = 1/64 and Q = 64 K, to the last digit of K: T = (Q n / K)^(1 / 2.67) = 1 = W exactly, on slopes of 1. Neither
+    // W < T nor W > T holds, so B keeps its 0. Se = 1, LT = C Q^0.42 64^0.6, A = 1 / 2, V = 2 Q.
+    struct Sample {
+        const char *units, *Q, *LT, *Dc, *V, *E, *Qi, *Qc;
+    };
+    for (const auto& [units, Q, LT, Dc, V, E, Qi, Qc] :
+         {Sample{"ENGLISH", "35.84000015258789", "32.711", "12.000", "71.680", "0.492", "17.622", "18.218"},
+          Sample{"METRIC", "24.06399917602539", "37.6794", "1000.0000", "48.1280", "0.4353", "10.4755",
+                 "13.5885"}}) {
+        use_units(units);
+        fill({{Column::TOTAL_DISCHARGE, Q},
+              {Column::MANNINGS, "0.015625"},
+              {Column::LONGSLOPE, "1"},
+              {Column::GUTWIDTH, "1"},
+              {Column::PAVXSLOPE, "1"},
+              {Column::GUTXSLOPE, "1"},
+              {Column::INLETXSLOPE, "1"},
+              {Column::LOCDEPWIDTH, "0"}});
+        ASSERT_EQ(solved("T"), 1.0) << units;
+        EXPECT_EQ(solved("B"), 0.0) << units;
+        EXPECT_EQ(solved("Eo"), 1.0) << units;
+        EXPECT_EQ(solved("Se"), 1.0) << units;
+        EXPECT_EQ(open_inlet.text(Column::INTLEN), LT);
+        EXPECT_EQ(open_inlet.text(Column::CURBDEPTH), Dc);
+        EXPECT_EQ(open_inlet.text(Column::FLOWVEL), V);
+        EXPECT_EQ(open_inlet.text(Column::EFFICIENCY), E);
+        EXPECT_EQ(open_inlet.text(Column::QINT), Qi);
+        EXPECT_EQ(open_inlet.text(Column::QCARRY), Qc);
+    }
+}
+
+TEST_F(CurbOnGrade, OnOneSlopeAGutterBarelyNarrowerThanTheSpreadHasAllFlowOutsideIt) {
+    // The leap at W = T: below it equal slopes without a depression give Eo = 0.
+    fill({{Column::TOTAL_DISCHARGE, "35.84000015258789"},
+          {Column::MANNINGS, "0.015625"},
+          {Column::LONGSLOPE, "1"},
+          {Column::PAVXSLOPE, "1"},
+          {Column::GUTXSLOPE, "1"},
+          {Column::INLETXSLOPE, "1"},
+          {Column::LOCDEPWIDTH, "0"}});
+    fill({{Column::GUTWIDTH, "0.99"}});
+    EXPECT_EQ(solved("Eo"), 0.0);
+    fill({{Column::GUTWIDTH, "1.01"}});
+    EXPECT_EQ(solved("Eo"), 1.0);
+}
+
 TEST_F(CurbOnGrade, AGutterWiderThanTheSpreadHasAllFlowWithinIt) {
     fill({{Column::GUTWIDTH, "50"}});
     EXPECT_EQ(solved(Column::FLOWRATIO), "1.000");

@@ -45,6 +45,22 @@ TEST_F(ComboOnGrade, TheResultsAreThoseOfTheHandCalculation) {
     EXPECT_NEAR(solved("Vr"), 2.1867171218282864, 1e-4);
 }
 
+TEST_F(ComboOnGrade, AGutterExactlyAsWideAsTheSpreadOnOneSlopeHasAllFlowInFront) {
+    // n = 1/64 and Q = 64 K, to the last digit of K: T = (Q n / K)^(1 / 2.67) = 1 = W exactly, on slopes of 1.
+    fill({{TOTAL_DISCHARGE, "35.84000015258789"},
+          {MANNINGS, "0.015625"},
+          {LONGSLOPE, "1"},
+          {GUTWIDTH, "1"},
+          {PAVXSLOPE, "1"},
+          {GUTXSLOPE, "1"},
+          {INLETXSLOPE, "1"}});
+    ASSERT_EQ(solved("T"), 1.0);
+    EXPECT_EQ(solved("Eo"), 1.0);
+    EXPECT_EQ(text(WT), "1.000");
+    EXPECT_EQ(text(FLOWRATIO), "1.000");
+    EXPECT_EQ(text(FLOWVEL), "71.680");
+}
+
 TEST_F(ComboOnGrade, TheCompositeSlopeIsRoundedBeforeTheLengthFollowsFromIt) {
     // Se = 0.0648673 becomes 0.0649: LT = 18.15651 instead of 18.16200.
     EXPECT_EQ(solved("Se"), 0.0649);

@@ -52,6 +52,22 @@ TEST_F(GrateOnAGrade, TheTwoFlowEfficienciesAreNotShown) {
     EXPECT_EQ(text(SFLOWEFF), "");
 }
 
+TEST_F(GrateOnAGrade, AGutterExactlyAsWideAsTheSpreadOnOneSlopeHasAllFlowInFront) {
+    // n = 1/64 and Q = 64 K, to the last digit of K: T = (Q n / K)^(1 / 2.67) = 1 = W exactly, on slopes of 1.
+    fill({{TOTAL_DISCHARGE, "35.84000015258789"},
+          {MANNINGS, "0.015625"},
+          {LONGSLOPE, "1"},
+          {GUTWIDTH, "1"},
+          {PAVXSLOPE, "1"},
+          {GUTXSLOPE, "1"},
+          {INLETXSLOPE, "1"}});
+    ASSERT_EQ(solved("T"), 1.0);
+    EXPECT_EQ(solved("Eo"), 1.0);
+    EXPECT_EQ(text(WT), "1.000");
+    EXPECT_EQ(text(FLOWRATIO), "1.000");
+    EXPECT_EQ(text(FLOWVEL), "71.680");
+}
+
 TEST_F(GrateOnAGrade, TheCompositeSlopeIsUsedUnrounded) {
     // LT = 0.6 x 3^0.42 x 0.02^0.3 (1 / (0.016 Se))^0.6 with Se = 0.0648673; 18.1565 would follow from
     // 0.0649.
