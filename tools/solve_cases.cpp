@@ -2,22 +2,36 @@
 //
 //   solve_cases [--kind "Curb Inlet"] [--location "SUMP"] TABLE...
 //
+// Or tells one inlet step by step, the one on that line of the table (the heading is line 1): what each step of the solver
+// gave to which quantity, what the boxes said, and each column that the solve changed.
+//
+//   solve_cases --trace LINE TABLE
+//
 // Exit 0 when no cell differs, 1 when one does, 2 when the call or a table cannot be read.
 
+#include <charconv>
 #include <exception>
 #include <iostream>
+#include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "engine/inlet_record.h"
+#include "engine/step.h"
+#include "engine/units.h"
 #include "tools/case_table.h"
 
 namespace {
 
 using namespace gullymark;
 
+constexpr std::size_t first_line = 2;  // of a row; the heading is line 1
+
 struct Request {
     std::string kind;
     std::string location;
+    std::size_t traced_line = 0;  // 0 for none
     std::vector<std::string> tables;
 };
 
@@ -27,21 +41,34 @@ struct Count {
     std::size_t differing = 0;
 };
 
+bool read_line_number(const std::string& text, std::size_t& line) {
+    const char* end = text.data() + text.size();
+    const auto [read_to, error] = std::from_chars(text.data(), end, line);
+    return error == std::errc() && read_to == end && line >= first_line;
+}
+
+bool read_option(const std::string& option, const std::string& value, Request& request) {
+    if (option == "--trace") {
+        return read_line_number(value, request.traced_line);
+    }
+    if (option == "--kind" || option == "--location") {
+        (option == "--kind" ? request.kind : request.location) = value;
+        return true;
+    }
+    return false;
+}
+
 bool read_arguments(const std::vector<std::string>& arguments, Request& request) {
     for (std::size_t i = 0; i < arguments.size(); ++i) {
-        const bool is_kind = arguments[i] == "--kind";
-        if (is_kind || arguments[i] == "--location") {
-            if (i + 1 == arguments.size()) {
-                return false;
-            }
-            (is_kind ? request.kind : request.location) = arguments[++i];
-        } else if (arguments[i].starts_with("--")) {
+        if (!arguments[i].starts_with("--")) {
+            request.tables.push_back(arguments[i]);
+        } else if (i + 1 == arguments.size() || !read_option(arguments[i], arguments[i + 1], request)) {
             return false;
         } else {
-            request.tables.push_back(arguments[i]);
+            ++i;
         }
     }
-    return !request.tables.empty();
+    return request.traced_line == 0 ? !request.tables.empty() : request.tables.size() == 1;
 }
 
 bool is_wanted(const Request& request, const cases::Table& table, const std::vector<std::string>& row) {
@@ -60,18 +87,61 @@ void compare_table(const Request& request, const std::string& path, Count& count
         count.cells += comparison.cells;
         count.differing += comparison.differences.size();
         for (const auto& [column, expected, computed] : comparison.differences) {
-            // The heading is line 1 of the file.
-            std::cout << path << ':' << i + 2 << ": " << column << " expected \"" << expected
+            std::cout << path << ':' << i + first_line << ": " << column << " expected \"" << expected
                       << "\", computed \"" << computed << "\"\n";
         }
     }
 }
 
+/// The columns that a solve changed, as they stand when it is over: results in their format, inputs that were repaired.
+void tell_changes(const std::vector<std::string>& before) {
+    for (std::size_t i = 0; i < engine::all_columns.size(); ++i) {
+        const auto column = engine::all_columns[i];
+        const auto& text = engine::open_inlet.text(column);
+        if (text != before[i]) {
+            const auto unit = engine::unit_text(engine::column_unit(column));
+            std::cout << engine::column_name(column) << " = \"" << text << '"' << (unit.empty() ? "" : " ")
+                      << unit << "  " << engine::column_meaning(column) << '\n';
+        }
+    }
+}
+
+void trace_row(const std::string& path, std::size_t line) {
+    const cases::Table table = cases::read_table(path);
+    if (line - first_line >= table.rows.size()) {
+        throw std::runtime_error(path + " has no line " + std::to_string(line));
+    }
+    const auto& row = table.rows[line - first_line];
+    cases::load_row(table, row);
+    std::vector<std::string> before;
+    for (const auto column : engine::all_columns) {
+        before.push_back(engine::open_inlet.text(column));
+    }
+    std::vector<engine::TraceLine> trace;
+    engine::onlooker.trace = &trace;
+    const auto computed = cases::solve_row(table, row);
+    engine::onlooker.trace = nullptr;
+
+    std::cout << path << ':' << line << ": " << cases::cell(table, row, "INLET_TYPE") << ", "
+              << cases::cell(table, row, "INLET_LOCATION") << ", " << cases::cell(table, row, "UNITS")
+              << '\n';
+    for (const auto& step : trace) {
+        std::cout << engine::describe(step) << '\n';
+    }
+    std::cout << "solved: " << computed.at("solved") << "\nmessages: " << computed.at("messages") << '\n';
+    tell_changes(before);
+}
+
 int run(const std::vector<std::string>& arguments) {
     Request request;
     if (!read_arguments(arguments, request)) {
-        std::cerr << "usage: solve_cases [--kind INLET_TYPE] [--location INLET_LOCATION] TABLE...\n";
+        std::cerr << "usage: solve_cases [--kind INLET_TYPE] [--location INLET_LOCATION] TABLE...\n"
+                     "       solve_cases --trace LINE TABLE\n";
         return 2;
+    }
+    if (request.traced_line != 0) {
+        trace_row(request.tables.front(), request.traced_line);
+        return 0;
     }
     Count count;
     for (const auto& path : request.tables) {
