@@ -16,6 +16,13 @@ if(GULLYMARK_SANITIZE)
   target_compile_options(gullymark_options INTERFACE -Wno-null-dereference)
 endif()
 
+# What users get resists an attack on its memory, and is the same wherever it is built.
+set(is_hardened $<AND:$<CONFIG:Release>,$<NOT:$<BOOL:${GULLYMARK_SANITIZE}>>>)
+target_compile_options(gullymark_options INTERFACE
+  "$<${is_hardened}:-fstack-protector-strong;-fstack-clash-protection;-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>"
+  "$<$<CONFIG:Release>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.;-ffile-prefix-map=${CMAKE_BINARY_DIR}=build>")
+target_link_options(gullymark_options INTERFACE "$<${is_hardened}:-pie;-Wl,-z,relro,-z,now>")
+
 if(GULLYMARK_FUZZ)
   target_compile_options(gullymark_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()

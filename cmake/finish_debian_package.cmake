@@ -25,6 +25,10 @@ string(REGEX REPLACE ", $" "" CPACK_DEBIAN_PACKAGE_DEPENDS "${Depends}")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
   "${Recommends}libreoffice-calc, xchm, xdg-utils, fonts-dejavu-core, fonts-liberation2 | fonts-liberation")
 
+# What the compiler says of itself helps no user.
+file(GLOB programs ${program_folder}/GullymarkAL ${program_folder}/gullymark-office)
+execute_process(COMMAND strip --remove-section=.comment --remove-section=.note ${programs} COMMAND_ERROR_IS_FATAL ANY)
+
 # gullymark-office finds the office's libraries in the office's own folder, which Debian's checker would forbid.
 file(WRITE ${staged}/share/lintian/overrides/gullymarkal
   "gullymarkal: custom-library-search-path RUNPATH /usr/lib/libreoffice/program *\n")
@@ -39,3 +43,6 @@ file(WRITE ${changelog} "${CPACK_PACKAGE_NAME} (${CPACK_PACKAGE_VERSION}) unstab
  -- ${CPACK_PACKAGE_CONTACT}  ${date}
 ")
 execute_process(COMMAND gzip -9n ${changelog} ${staged}/share/man/man1/GullymarkAL.1 COMMAND_ERROR_IS_FATAL ANY)
+
+# Whatever who packs may keep to himself elsewhere.
+execute_process(COMMAND chmod --recursive u=rwX,go=rX ${CPACK_TEMPORARY_DIRECTORY}/usr COMMAND_ERROR_IS_FATAL ANY)

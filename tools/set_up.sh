@@ -3,7 +3,7 @@
 #
 #   tools/set_up.sh build       to build and run the program
 #   tools/set_up.sh build test  to run every test and check as well
-#   tools/set_up.sh build deb   to make the Debian package
+#   tools/set_up.sh build deb   to make the Debian package; with release, to try it as well
 set -euo pipefail
 
 build_packages=(
@@ -22,6 +22,7 @@ test_packages=(
   desktop-file-utils appstream shared-mime-info libglib2.0-bin
 )
 deb_packages=(dpkg-dev file)
+release_packages=(lintian faketime)
 bench_packages=(libbenchmark-dev)
 fuzz_packages=(clang-14 libclang-rt-14-dev)
 
@@ -31,9 +32,10 @@ for group in "$@"; do
     build) wanted+=("${build_packages[@]}" "${run_packages[@]}") ;;
     test) wanted+=("${test_packages[@]}") ;;
     deb) wanted+=("${deb_packages[@]}") ;;
+    release) wanted+=("${release_packages[@]}") ;;
     bench) wanted+=("${bench_packages[@]}") ;;
     fuzz) wanted+=("${fuzz_packages[@]}") ;;
-    *) echo "set_up: no group '$group': build, test, deb, bench, fuzz" >&2; exit 2 ;;
+    *) echo "set_up: no group '$group': build, test, deb, release, bench, fuzz" >&2; exit 2 ;;
   esac
 done
 
