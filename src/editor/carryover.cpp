@@ -87,17 +87,28 @@ void leave_previous_inlet(const PreviousInlet& previous) {
     ComputeTotalDischarge();
 }
 
+void open_carryover() {
+    auto& rows = frminletMDIC.carryoverRS;
+    rows = platform::RowSet();
+    rows.open(store::project_store.connection, store::select_carryover);
+}
+
 /// The list has one entry an inlet, read when the field is entered.
 void enter_previous_inlet(FieldId preinlet) {
     frminletMDIC.preinlet_at_entry = text(preinlet);
     SelectFieldText(preinlet);
     auto& entries = field(preinlet).entries;
     entries.clear();
-    ignore_failure([&] {
+    try {
+        if (!frminletMDIC.carryoverRS.is_open()) {
+            open_carryover();
+        }
         for (auto& number : frminletMDIC.carryoverRS.all_values("INLET_NUMBER")) {
             entries.push_back(std::move(number).value_or(""));
         }
-    });
+    } catch (const platform::Failure& failure) {
+        tell(failure.what());
+    }
 }
 
 }  // namespace
@@ -123,11 +134,10 @@ void get_discharge_carryover(std::string_view kind) {
         field(preinlet1).entries.clear();
         field(preinlet2).entries.clear();
         auto& rows = frminletMDIC.carryoverRS;
-        if (kind == "requery") {
+        if (kind == "requery" && rows.is_open()) {
             rows.requery();
         } else {
-            rows = platform::RowSet();
-            rows.open(store::project_store.connection, store::select_carryover);
+            open_carryover();
         }
         if (rows.record_count() >= 1) {
             rows.move_first();
@@ -142,8 +152,14 @@ void set_discharge_carryover(int side) {
     const FieldId carryover = side == 1 ? carryover1 : carryover2;
     try {
         auto& rows = frminletMDIC.carryoverRS;
+        if (!rows.is_open()) {
+            open_carryover();
+        }
         rows.move_first();
         rows.find("INLET_NUMBER = '" + text(preinlet) + "'");
+        if (rows.at_end()) {
+            throw platform::Failure(not_in_project(text(preinlet)));
+        }
         const std::string bypass = rows.value("QCARRY").value_or("");
         set_text(carryover, bypass.empty() ? "0.0" : bypass);
         rows.move_first();

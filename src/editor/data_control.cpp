@@ -1,14 +1,14 @@
 #include "editor/data_control.h"
 
+#include <utility>
+
 #include "platform/failure.h"
 #include "store/project_session.h"
 #include "store/project_store.h"
 
 namespace gullymark::editor {
 
-void DataControl::open(const std::string& statement) {
-    rows = platform::RowSet();
-    connection = platform::Connection();
+void DataControl::connect() {
     // What the project's own connection refused is not read by the way of a list's.
     if (!store::project_store.connection.is_open()) {
         throw platform::Failure("the project file is not open");
@@ -17,27 +17,30 @@ void DataControl::open(const std::string& statement) {
     if (store::project_store.connection.refuses_writes()) {
         connection.refuse_writes();
     }
-    rows.open(connection, statement);
 }
 
 void DataControl::refresh() {
-    rows.requery();
+    try {
+        if (!connection.is_open()) {
+            connect();
+        }
+        platform::RowSet queried;
+        queried.open(connection, statement);
+        texts = queried.read_texts();
+        rows = std::move(queried);
+        failure.clear();
+    } catch (const platform::Failure& why) {
+        failure = why.what();
+        throw;
+    }
 }
 
 int DataControl::record_count() const {
-    return rows.is_open() ? static_cast<int>(rows.record_count()) : 0;
+    return static_cast<int>(texts.count());
 }
 
 std::string DataControl::cell(int row, std::size_t column) const {
-    if (row < 1 || row > record_count()) {
-        return "";
-    }
-    try {
-        const platform::Row values = rows.row_at(static_cast<std::size_t>(row - 1));
-        return column < values.size() ? values[column].value_or("") : "";
-    } catch (const platform::Failure&) {
-        return "";
-    }
+    return row < 1 ? "" : std::string(texts.text(static_cast<std::size_t>(row - 1), column));
 }
 
 }  // namespace gullymark::editor

@@ -20,7 +20,8 @@ void load_inlet_grid() {
     frmgrid.loaded = true;
     ++frmgrid.loads;
     platform::show_wait_pointer(true);
-    ignore_failure([] { MDIInlet.Adodc1.open(store::select_grid); });
+    MDIInlet.Adodc1 = {.statement = store::select_grid};
+    ignore_failure([] { MDIInlet.Adodc1.refresh(); });
     platform::show_wait_pointer(false);
     if (MDIInlet.Adodc1.record_count() >= 1) {
         SelectGridRow();
@@ -68,6 +69,19 @@ std::string grid_cell(int row, std::size_t column) {
 
 std::string current_grid_number() {
     return grid_cell(frmgrid.row, 0);
+}
+
+bool grid_is_empty(const std::string& message) {
+    const DataControl& inlets = MDIInlet.Adodc1;
+    if (inlets.record_count() >= 1) {
+        return false;
+    }
+    if (inlets.failure.empty()) {
+        platform::tell(message, platform::BoxKind::information);
+    } else {
+        platform::tell(inlets.failure);
+    }
+    return true;
 }
 
 void remember_grid_row(int row) {

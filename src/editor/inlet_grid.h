@@ -32,11 +32,14 @@ void pick_grid_row(int row);
 void flexgrid_EnterCell();
 void flexgrid_Click();
 
-/// A text of the grid. One row is read at a time, when it is looked at.
+/// A text of the grid, as its last query read it.
 std::string grid_cell(int row, std::size_t column);
 
 /// The inlet number of the current row; empty without one.
 std::string current_grid_number();
+
+/// True where no inlet is in the grid, after telling so by `message`, or why the inlets could not be read.
+bool grid_is_empty(const std::string& message);
 
 /// Remembers a row, and the grid stands on it.
 void remember_grid_row(int row);

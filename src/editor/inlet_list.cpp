@@ -15,6 +15,12 @@ namespace {
 constexpr std::size_t preinlet1_column = 7;
 constexpr std::size_t preinlet2_column = 8;
 
+constexpr const char* list_statement =
+    "SELECT INLET_NUMBER AS [INLET_ID],STATION, OFFSET, INLET_TYPE AS [TYPE],INLET_LOCATION AS "
+    "[LOCATION],INLET_SUBTYPE AS [INLET STD],INLETLENGTH AS [LENGTH], PREINLET1 AS [PRE-INLET1], "
+    "PREINLET2 AS [PRE-INLET2], "
+    " TOTAL_DISCHARGE AS [DISCHARGE] FROM INLET ORDER BY INLET_NUMBER";
+
 std::string current_cell() {
     return list_cell(frminletflex.row, 0);
 }
@@ -30,8 +36,10 @@ void keep_row() {
 void load_inlet_list() {
     frminletflex.loaded = true;
     engine::unit_constants.numberFormat = "0.000";
-    get_flexinlet_records();
     ++frminletflex.loads;
+    if (!get_flexinlet_records()) {
+        return;
+    }
     try {
         frminletflex.Adodc1.refresh();
         frminletflex.flexinletRS.requery();
@@ -65,17 +73,15 @@ void unload_inlet_list() {
     frminletflex = {.loads = frminletflex.loads, .shows = frminletflex.shows};
 }
 
-void get_flexinlet_records() {
+bool get_flexinlet_records() {
+    frminletflex.Adodc1 = {.statement = list_statement};
+    frminletflex.flexinletRS = platform::RowSet();
     try {
-        frminletflex.flexinletRS = platform::RowSet();
         frminletflex.flexinletRS.open(store::project_store.connection, store::select_inlets);
-        frminletflex.Adodc1.open(
-            "SELECT INLET_NUMBER AS [INLET_ID],STATION, OFFSET, INLET_TYPE AS [TYPE],INLET_LOCATION AS "
-            "[LOCATION],INLET_SUBTYPE AS [INLET STD],INLETLENGTH AS [LENGTH], PREINLET1 AS [PRE-INLET1], "
-            "PREINLET2 AS [PRE-INLET2], "
-            " TOTAL_DISCHARGE AS [DISCHARGE] FROM INLET ORDER BY INLET_NUMBER");
+        return true;
     } catch (const platform::Failure& failure) {
         platform::tell(failure.what());
+        return false;
     }
 }
 
@@ -120,6 +126,9 @@ void refresh_inlet_list() {
         if (list.Adodc1.record_count() == 0) {
             list.rec_count.text = std::to_string(list.Adodc1.record_count());
             return;
+        }
+        if (!list.flexinletRS.is_open()) {
+            list.flexinletRS.open(store::project_store.connection, store::select_inlets);
         }
         // This set was last read at load, so the count can lag behind the rows; that is meant.
         list.rec_count.text = std::to_string(list.flexinletRS.record_count());

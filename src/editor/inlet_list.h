@@ -44,7 +44,8 @@ inline constexpr int list_column_points = 60;
 void show_inlet_list();
 void unload_inlet_list();
 
-void get_flexinlet_records();
+/// Opens `flexinletRS` and points `Adodc1` at the query of the list. False after telling why not.
+bool get_flexinlet_records();
 
 /// A click or a key went to a row.
 void inletflex_EnterCell(int row);

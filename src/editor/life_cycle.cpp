@@ -4,6 +4,7 @@
 #include "editor/discharge.h"
 #include "editor/field_enabling.h"
 #include "editor/form_access.h"
+#include "editor/inlet_grid.h"
 #include "editor/workspace.h"
 #include "engine/inlet_row.h"
 #include "engine/results.h"
@@ -16,10 +17,36 @@
 namespace gullymark::editor {
 namespace {
 
+using platform::tell;
 using enum FieldId;
 
 constexpr int add_new_reason = 1;
 constexpr int first_change_reason = 11;
+
+bool shows_a_row() {
+    const auto& rows = frminletMDIC.adoInletRS;
+    return rows.is_open() && !rows.at_beginning() && !rows.at_end();
+}
+
+/// Fails where no inlet has that number, and where it cannot be read.
+void show_inlet(const std::string& number) {
+    auto& rows = frminletMDIC.adoInletRS;
+    rows.move_first();
+    rows.find("INLET_NUMBER = '" + number + "'");
+    attach_inlet_datasource();
+    if (rows.at_end()) {
+        throw platform::Failure(not_in_project(number));
+    }
+}
+
+/// An empty form on no row: what is typed from here on can be saved into none.
+void show_no_inlet() {
+    ignore_failure([] {
+        frminletMDIC.adoInletRS.move_last();
+        frminletMDIC.adoInletRS.move_next();
+    });
+    ignore_failure(attach_inlet_datasource);
+}
 
 void InitEditorForm() {
     set_text(txtProject, store::session.projectName);
@@ -61,7 +88,7 @@ void get_all_projectrecords() {
         attach_inlet_datasource();
     } catch (const platform::Failure& failure) {
         // A damaged row: the workspace opens without it.
-        platform::tell(failure.what());
+        tell(failure.what());
     }
     get_discharge_carryover("newquery");
 }
@@ -76,7 +103,7 @@ void get_inlet_records(const std::string& key) {
             rows.move_first();
         }
     } catch (const platform::Failure& failure) {
-        platform::tell(failure.what());
+        tell(failure.what());
     }
 }
 
@@ -90,13 +117,40 @@ void adoInletRS_WillChangeRecord(int reason) {
     }
 }
 
+std::string not_in_project(std::string_view number) {
+    return "Inlet " + std::string(number) + " is not in this project";
+}
+
+void query_inlets() {
+    auto& rows = frminletMDIC.adoInletRS;
+    if (rows.is_open()) {
+        rows.requery();
+    } else {
+        rows.open(store::project_store.connection, store::select_inlets);
+    }
+}
+
 void Inletrecord_find(const std::string& number) {
-    ignore_failure([&] {
-        auto& rows = frminletMDIC.adoInletRS;
-        rows.move_first();
-        rows.find("INLET_NUMBER = '" + number + "'");
-    });
-    ignore_failure(attach_inlet_datasource);
+    try {
+        show_inlet(number);
+    } catch (const platform::Failure&) {
+        show_no_inlet();
+    }
+}
+
+bool shows_marked_inlet() {
+    try {
+        if (!shows_a_row()) {
+            query_inlets();
+            show_inlet(current_grid_number());
+            update_currentstatusbar();
+        }
+        return true;
+    } catch (const platform::Failure& failure) {
+        show_no_inlet();
+        tell(failure.what());
+        return false;
+    }
 }
 
 void SSTab1_Click(int /*previous_tab*/) {

@@ -18,8 +18,16 @@ void get_all_projectrecords();
 void get_inlet_records(const std::string& key);
 /// The fields show the current row of `adoInletRS`; without one they are empty.
 void attach_inlet_datasource();
-/// Goes to the inlet of that number; none leaves the row set at its end and the form empty. Failures are ignored.
+/// Runs the query of `adoInletRS` again, or for the first time where it could not be opened. Throws Failure.
+void query_inlets();
+/// Goes to the inlet of that number. Where there is none, or it cannot be read, the row set is at its end and the form
+/// empty; failures are ignored.
 void Inletrecord_find(const std::string& number);
+/// True when the form shows an inlet. One that could not be read when it was marked in the grid is read now; false
+/// after telling why not.
+bool shows_marked_inlet();
+/// What is told of a number that no inlet has.
+std::string not_in_project(std::string_view number);
 
 // Commands, as the workspace calls them after its own questions.
 void SetAddrecord();

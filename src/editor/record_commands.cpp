@@ -44,19 +44,39 @@ void begin_row() {
 void append_row() {
     auto& rows = frminletMDIC.adoInletRS;
     try {
-        rows.requery();
+        query_inlets();
         if (rows.record_count() >= 1) {
             rows.move_last();
         }
     } catch (const platform::Failure&) {
-        begin_row();  // else what is typed now would be saved over the inlet that was shown
+        if (rows.is_open()) {
+            begin_row();  // else what is typed now would be saved over the inlet that was shown
+        }
         throw;
     }
     begin_row();
 }
 
+/// "ADD" without a pending row would take an inlet that can never be saved.
+bool row_is_pending() {
+    bool pending = false;
+    ignore_failure([&] { pending = frminletMDIC.adoInletRS.adding(); });
+    return pending;
+}
+
+/// The new row is there to be typed in, beginning with its number; without one the mode is "VIEW" again.
+void go_to_new_row() {
+    if (!row_is_pending()) {
+        Activate_menu("View");
+        return;
+    }
+    update_currentstatusbar();
+    enter(Inlet_Number);
+    frminletMDIC.wanted_focus = Inlet_Number;
+}
+
 void requery_inlets() {
-    frminletMDIC.adoInletRS.requery();
+    query_inlets();
     attach_inlet_datasource();
 }
 
@@ -90,9 +110,23 @@ void stay_in_or_leave(std::optional<FieldId> field) {
     }
 }
 
+/// Another program may have given the number, or the row, to another inlet since the grid was read.
+void delete_row_of_grid(int row, const std::string& number) {
+    auto& rows = MDIInlet.Adodc1.rows;
+    rows.move_first();
+    rows.move(row - 1);
+    if (rows.row().front().value_or("") != number) {
+        throw platform::Failure("Inlet " + number + " was changed by another program");
+    }
+    rows.remove();
+}
+
+/// An inlet without a number is nobody's previous inlet: the empty texts of those columns stay.
 void renumber(const std::string& from, const std::string& to) {
-    for (const auto& statement : store::renumber_inlet(to, from)) {
-        store::project_store.connection.execute(statement);
+    const auto statements = store::renumber_inlet(to, from);
+    const std::size_t count = from.empty() ? 1 : statements.size();
+    for (std::size_t i = 0; i < count; ++i) {
+        store::project_store.connection.execute(statements.at(i));
     }
 }
 
@@ -103,9 +137,7 @@ void SetAddrecord() {
     Activate_menu("Add");
     frminletMDIC.road_name = text(RoadWay);
     AddRecord();
-    update_currentstatusbar();
-    enter(Inlet_Number);
-    frminletMDIC.wanted_focus = Inlet_Number;
+    go_to_new_row();
 }
 
 void AddRecord() {
@@ -124,9 +156,7 @@ void SetCopyrecord() {
     CaptureInletFields();
     Activate_menu("Add");
     AddCopiedRecord();
-    update_currentstatusbar();
-    enter(Inlet_Number);
-    frminletMDIC.wanted_focus = Inlet_Number;
+    go_to_new_row();
 }
 
 void CaptureInletFields() {
@@ -219,10 +249,8 @@ void current_record_delete() {
              BoxKind::warning);
         return;
     }
-    auto& rows = MDIInlet.Adodc1.rows;
-    rows.move(frmgrid.row - 1);
-    rows.remove();
-    rows.requery();
+    delete_row_of_grid(frmgrid.row, number);
+    MDIInlet.Adodc1.refresh();
     requery_inlets();
     if (frmgrid.row >= 1) {
         remember_grid_row(frmgrid.row - 1);
@@ -234,8 +262,7 @@ void current_record_delete() {
 }
 
 void modifyinlet() {
-    if (MDIInlet.Adodc1.record_count() == 0) {
-        tell("No inlets to Modify!", BoxKind::information);
+    if (grid_is_empty("No inlets to Modify!")) {
         return;
     }
     const std::string number = current_grid_number();

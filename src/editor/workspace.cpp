@@ -13,7 +13,6 @@ namespace gullymark::editor {
 namespace {
 
 using platform::BoxKind;
-using platform::tell;
 using enum FieldId;
 
 void call(const std::function<void()>& function) {
@@ -121,11 +120,9 @@ void mnuAddinlet_Click() {
 }
 
 void mnuEditinlet_Click() {
-    if (MDIInlet.Adodc1.record_count() == 0) {
-        tell("No records to Edit!", BoxKind::information);
-        return;
+    if (!grid_is_empty("No records to Edit!") && shows_marked_inlet()) {
+        SetEditRecord();
     }
-    SetEditRecord();
 }
 
 void mnuSaveinlet_Click() {
@@ -162,8 +159,7 @@ void mnuflexcopyinlet_Click() {
     if (!viewing()) {
         return;
     }
-    if (MDIInlet.Adodc1.record_count() == 0) {
-        tell("No records to Copy!", BoxKind::information);
+    if (grid_is_empty("No records to Copy!") || !shows_marked_inlet()) {
         return;
     }
     if (platform::ask("Copy Inlet -  " + current_grid_number() + " - Data as a New Inlet?",
@@ -183,8 +179,7 @@ void mnuflexdeleteinlet_Click() {
     if (!viewing()) {
         return;
     }
-    if (MDIInlet.Adodc1.record_count() == 0) {
-        tell("No records to Delete!", BoxKind::information);
+    if (grid_is_empty("No records to Delete!")) {
         return;
     }
     ignore_failure(current_record_delete);
@@ -196,7 +191,8 @@ void mnuflexdeleteinlet_Click() {
 }
 
 void mnuflex_inlet_report_Click() {
-    if (viewing()) {
+    const bool has_inlets = MDIInlet.Adodc1.record_count() >= 1;
+    if (viewing() && (!has_inlets || shows_marked_inlet())) {
         call(windows.inlet_report);
     }
 }

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/database_journal.h"
+#include "platform/text_rows.h"
 
 struct sqlite3;
 
@@ -122,8 +123,9 @@ class RowSet {
     /// One column of it by the name in `columns()`; a name that is not there is a failure.
     [[nodiscard]] std::optional<std::string> value(std::string_view column) const;
 
-    /// The row at `index` (0 is the first), wherever the current position is: for lists. An index beyond them is a failure.
-    [[nodiscard]] Row row_at(std::size_t index) const;
+    /// All rows in order as they stand in the file now, read at once: for lists, which show them until they read again.
+    /// A row that is no longer in the file has empty texts.
+    [[nodiscard]] TextRows read_texts() const;
     /// One column of all rows in order, read at once: for lists. Null for a row that is no longer in the file.
     [[nodiscard]] Row all_values(std::string_view column) const;
 
@@ -139,7 +141,8 @@ class RowSet {
     void save(const Row& values);
     /// Drops the pending new row and goes back to the row that was current before; nothing is written.
     void cancel();
-    /// Deletes the current row alone; the position is then the row that followed.
+    /// Deletes the current row alone; the position is then the row that followed. A row that is no longer in the file is
+    /// a failure, and so is one whose first column another program changed since it was read here.
     void remove();
     /// Runs the statement again and goes to the first row. A pending new row is dropped.
     void requery();

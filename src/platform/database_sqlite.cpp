@@ -117,6 +117,14 @@ void refuse_comments(std::string_view statement) {
     }
 }
 
+std::string_view Statement::text_view(int column) const {
+    const unsigned char* bytes = sqlite3_column_text(statement_, column);
+    const int size = sqlite3_column_bytes(statement_, column);
+    return bytes == nullptr
+               ? std::string_view()
+               : std::string_view(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(size));
+}
+
 std::int64_t read_integer(sqlite3* file, std::string_view statement) {
     Statement query(file, statement);
     return query.step() ? query.integer(0) : 0;

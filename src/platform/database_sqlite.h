@@ -86,6 +86,8 @@ class Statement {
     [[nodiscard]] int column_count() const { return sqlite3_column_count(statement_); }
     /// Of the row that `step` stands on; nothing for a null.
     [[nodiscard]] std::optional<std::string> text(int column) const;
+    /// The same, valid until the next step; empty for a null.
+    [[nodiscard]] std::string_view text_view(int column) const;
     /// The same as a whole number; 0 for a null and for a text that is none.
     [[nodiscard]] std::int64_t integer(int column) const { return sqlite3_column_int64(statement_, column); }
 

@@ -1,10 +1,10 @@
 #include <algorithm>
 #include <functional>
 #include <memory>
-#include <unordered_map>
 #include <utility>
 
 #include "platform/database.h"
+#include "platform/database_lists.h"
 #include "platform/database_sqlite.h"
 #include "platform/database_statements.h"
 #include "platform/failure.h"
@@ -68,6 +68,8 @@ struct RowSet::State {
     const Row& load();
     void insert(const Row& values);
     void update(const Row& values);
+    /// A row that could not be written as it was loaded: it is gone, or another program changed it.
+    [[noreturn]] void fail_on_changed_row(std::int64_t key) const;
 };
 
 void RowSet::State::run_query() {
@@ -168,11 +170,15 @@ void RowSet::State::update(const Row& values) {
         throw;
     }
     if (!replaced) {
-        static_cast<void>(read(key));
-        throw Failure("the row was changed by another program");
+        fail_on_changed_row(key);
     }
     loaded = values;
     attempts.clear();
+}
+
+void RowSet::State::fail_on_changed_row(std::int64_t key) const {
+    static_cast<void>(read(key));
+    throw Failure("the row was changed by another program");
 }
 
 RowSet::RowSet() = default;
@@ -284,30 +290,14 @@ std::optional<std::string> RowSet::value(std::string_view column) const {
     return set.load()[set.index_of(column)];
 }
 
-Row RowSet::row_at(std::size_t index) const {
+TextRows RowSet::read_texts() const {
     const auto& set = state();
-    if (index >= set.keys->size()) {
-        throw Failure("there is no row " + std::to_string(index));
-    }
-    return set.read((*set.keys)[index]);
+    return platform::read_texts(set.file(), set.source.table, set.source.columns, *set.keys);
 }
 
 Row RowSet::all_values(std::string_view column) const {
     const auto& set = state();
-    const auto& name = set.source.columns[set.index_of(column)];
-    Statement query(set.file(),
-                    "SELECT rowid, " + quoted_name(name) + " FROM " + quoted_name(set.source.table));
-    std::unordered_map<std::int64_t, std::optional<std::string>> values;
-    values.reserve(set.keys->size());
-    while (query.step()) {
-        values.emplace(query.integer(0), query.text(1));
-    }
-    Row in_order;
-    in_order.reserve(set.keys->size());
-    for (const auto key : *set.keys) {
-        in_order.push_back(std::move(values[key]));
-    }
-    return in_order;
+    return read_values(set.file(), set.source.table, set.source.columns[set.index_of(column)], *set.keys);
 }
 
 void RowSet::add_new() {
@@ -339,11 +329,9 @@ void RowSet::cancel() {
 
 void RowSet::remove() {
     auto& set = state();
-    Statement statement(set.file(), "DELETE FROM " + quoted_name(set.source.table) + " WHERE rowid = ?1");
-    statement.bind(1, set.current_key());
-    statement.run();
-    if (sqlite3_changes(set.file()) != 1) {
-        throw Failure("the row is no longer in the file");
+    const auto key = set.current_key();
+    if (!delete_row(set.file(), set.source, key, {set.load().front()})) {
+        set.fail_on_changed_row(key);
     }
     set.change_keys([&](Keys& own) { own.erase(own.begin() + set.position); });
     set.go(set.position);

@@ -72,6 +72,86 @@ TEST_F(FileFaults, LockedASaveIsDroppedAndTheNextOneIsStored) {
     EXPECT_EQ(stations(), "10|1+00\n2|2+00");
 }
 
+/// Another program holds the file so that nobody else can even read it.
+struct Lock {
+    sqlite3* file = nullptr;
+
+    explicit Lock(const std::string& path) {
+        sqlite3_open(path.c_str(), &file);
+        EXPECT_EQ(sqlite3_exec(file, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
+    }
+    ~Lock() { sqlite3_close(file); }
+    Lock(const Lock&) = delete;
+    Lock& operator=(const Lock&) = delete;
+};
+
+const Box locked = plain("database is locked");
+
+TEST_F(FileFaults, LockedWhileItIsReadAnewNoCommandSaysThatTheProjectHasNoInlets) {
+    const Box grid_locked = plain("database is locked - " + path);
+    {
+        const Lock lock(path);
+        mnuflexrefresh_Click();
+        EXPECT_EQ(boxes(), (Boxes{locked, locked}));
+        for (const int button : {3, 5}) {
+            Toolbar1_ButtonClick(button);
+            EXPECT_EQ(boxes(), Boxes{grid_locked}) << button;
+        }
+        mnuflexdeleteinlet_Click();
+        EXPECT_EQ(boxes(), Boxes{grid_locked});
+        mnuflexmodifyinlet_Click();
+        EXPECT_EQ(boxes(), (Boxes{grid_locked, locked, locked})) << "the last two are those of the refresh";
+    }
+    mnuflexrefresh_Click();
+    EXPECT_EQ(boxes(), Boxes{});
+    EXPECT_EQ(MDIInlet.Adodc1.record_count(), 2);
+}
+
+TEST_F(FileFaults, AnAddThatCannotBeginItsRowEndsAndTheNextOneBegins) {
+    {
+        const Lock lock(path);
+        mnuflexrefresh_Click();
+        boxes();
+        mnuAddinlet_Click();
+        EXPECT_EQ(boxes(), Boxes{locked});
+        EXPECT_EQ(mode(), "VIEW") << "a row that was never begun could not be saved";
+        EXPECT_FALSE(frminletMDIC.focused);
+    }
+    add_curb_inlet("3", "1");
+    solve_and_save();
+    EXPECT_EQ(boxes(), Boxes{saved});
+    EXPECT_EQ(all_numbers(), "10\n2\n3");
+}
+
+TEST_F(FileFaults, LockedWhileAPreviousInletIsEnteredItsEmptyListIsToldAndFilledLater) {
+    edit(2);
+    click_tab(1);
+    {
+        const Lock lock(path);
+        go_to(preinlet1);
+        EXPECT_EQ(boxes(), Boxes{locked});
+        EXPECT_TRUE(field(preinlet1).entries.empty());
+    }
+    EXPECT_TRUE(leave_focused_field());
+    go_to(preinlet1);
+    EXPECT_EQ(boxes(), Boxes{});
+    EXPECT_EQ(field(preinlet1).entries, (std::vector<std::string>{"10", "2"}));
+}
+
+TEST_F(FileFaults, LockedAtARefreshThePreviousInletIsReadLater) {
+    {
+        const Lock lock(path);
+        mnuflexrefresh_Click();
+    }
+    boxes();
+    add_inlet("3");
+    click_tab(1);
+    type(preinlet1, "10");
+    EXPECT_TRUE(leave_focused_field());
+    EXPECT_EQ(boxes(), Boxes{});
+    EXPECT_EQ(shown(carryover1), stored("SELECT QCARRY FROM INLET WHERE INLET_NUMBER = '10'"));
+}
+
 TEST_F(FileFaults, LockedByAProgramThatWasKilledItOpensAsItWas) {
     testing_support::cut_a_save_short(path);
     ASSERT_TRUE(fs::exists(path + "-journal"));

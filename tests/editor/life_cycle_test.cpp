@@ -58,23 +58,19 @@ TEST_F(LifeCycle, AfterAnAddTheLastRowIsSelectedWhereverTheNewOneSorts) {
 TEST_F(LifeCycle, AddShowsTheStoresErrorWhenTheFileIsClosed) {
     store::project_store.connection.close();
     mnuAddinlet_Click();
-    const Boxes shown_boxes = boxes();
-    ASSERT_FALSE(shown_boxes.empty());
-    EXPECT_EQ(shown_boxes[0].kind, BoxKind::plain);
-    EXPECT_EQ(shown_boxes[0].title, "GullymarkAL");
+    EXPECT_EQ(boxes(), Boxes{plain("the connection is not open")});
+    EXPECT_EQ(mode(), "VIEW") << "what is typed could never be saved";
 }
 
 // Copy.
 
-TEST_F(LifeCycle, CopyShowsTheStoresErrorWhenTheFileIsClosed) {
-    user.answers = {Answer::yes};
+TEST_F(LifeCycle, CopyAndEditShowTheStoresErrorWhenTheFileIsClosed) {
     store::project_store.connection.close();
     mnuflexcopyinlet_Click();
-    EXPECT_EQ(
-        boxes(),
-        (Boxes{{.kind = BoxKind::information_question, .text = "Copy Inlet -  2 - Data as a New Inlet?"},
-               plain("the connection is not open")}));
-    EXPECT_EQ(mode(), "ADD");
+    EXPECT_EQ(boxes(), Boxes{plain("the connection is not open")});
+    mnuEditinlet_Click();
+    EXPECT_EQ(boxes(), Boxes{plain("the connection is not open")});
+    EXPECT_EQ(mode(), "VIEW");
 }
 
 TEST_F(LifeCycle, ACopyTakesTheDataButNoNumberNoPreviousInletsAndNoResults) {

@@ -51,12 +51,13 @@ std::string RoadFile::saved(const std::string& number, const std::string& column
     return run("SELECT " + columns + " FROM INLET WHERE INLET_NUMBER = " + quoted(number));
 }
 
-void RoadFile::hold() {
+void RoadFile::hold(bool for_reading_too) {
+    holder_.reset();
     sqlite3* file = nullptr;
     const int opened = sqlite3_open(path_.c_str(), &file);
     holder_ = {file, sqlite3_close};
-    if (opened != SQLITE_OK ||
-        sqlite3_exec(file, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) != SQLITE_OK) {
+    if (opened != SQLITE_OK || sqlite3_exec(file, for_reading_too ? "BEGIN EXCLUSIVE" : "BEGIN IMMEDIATE",
+                                            nullptr, nullptr, nullptr) != SQLITE_OK) {
         throw std::runtime_error(sqlite3_errmsg(file));
     }
 }

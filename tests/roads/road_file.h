@@ -30,8 +30,8 @@ class RoadFile {
     /// The values of these columns of an inlet.
     [[nodiscard]] std::string saved(const std::string& number, const std::string& columns) const;
 
-    /// Another program writes and has not ended yet; others can read.
-    void hold();
+    /// Another program writes and has not ended yet; others can read, or not even that.
+    void hold(bool for_reading_too = false);
     void let_go() { holder_.reset(); }
 
   private:

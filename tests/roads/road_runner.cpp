@@ -51,6 +51,7 @@ constexpr auto file_deeds = std::to_array<FileDeed>({
     {"given inlet ...",                 [](RoadFile& f, const Texts& t) { f.put_inlet(t); }},
     {"another program runs $",          [](RoadFile& f, const Texts& t) { static_cast<void>(f.run(t[0])); }},
     {"another program holds the file",  [](RoadFile& f, const Texts&) { f.hold(); }},
+    {"another program locks the file",  [](RoadFile& f, const Texts&) { f.hold(true); }},
     {"another program lets go",         [](RoadFile& f, const Texts&) { f.let_go(); }},
 });
 

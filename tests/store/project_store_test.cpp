@@ -67,7 +67,8 @@ TEST_F(ProjectStoreTest, TheGridListShowsNumberStationAndOffset) {
     RowSet grid;
     grid.open(project_store.connection, gullymark::store::select_grid);
     EXPECT_EQ(grid.columns(), (std::vector<std::string>{"INLET_ID", "STATION", "OFFSET"}));
-    EXPECT_EQ(grid.row_at(3), (Row{"2", "2+00", "5"}));
+    grid.move(3);
+    EXPECT_EQ(grid.row(), (Row{"2", "2+00", "5"}));
 }
 
 TEST_F(ProjectStoreTest, OneInletIsFoundByItsNumber) {
