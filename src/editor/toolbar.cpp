@@ -49,6 +49,10 @@ void Toolbar1_ButtonClick(int index) {
         if (command.index == index && command.in_view == viewing()) {
             press(static_cast<std::size_t>(index));
             command.run();
+            // A command that entered no mode has ended: it was answered with No, or had nothing to work on.
+            if (viewing()) {
+                release(static_cast<std::size_t>(index));
+            }
             return;
         }
     }

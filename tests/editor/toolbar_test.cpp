@@ -50,6 +50,29 @@ TEST_F(WorkspaceTest, InViewAddCopyAndEditArePressedAndRun) {
     }
 }
 
+TEST_F(WorkspaceTest, ACopyAnsweredWithNoReleasesItsButton) {
+    show_with(1);
+    bool pressed = false;
+    platform::outside.show_box = [&](const platform::Box&) {
+        pressed = MDIInlet.Toolbar1[3].checked;
+        return Answer::no;
+    };
+    Toolbar1_ButtonClick(3);
+    EXPECT_TRUE(pressed) << "while it runs";
+    EXPECT_FALSE(MDIInlet.Toolbar1[3].checked);
+    EXPECT_EQ(mode(), "VIEW");
+}
+
+TEST_F(WorkspaceTest, InAnEmptyProjectCopyAndEditReleaseTheirButtons) {
+    show_with(0);
+    Toolbar1_ButtonClick(3);
+    EXPECT_EQ(boxes(), Boxes{information("No records to Copy!")});
+    EXPECT_FALSE(MDIInlet.Toolbar1[3].checked);
+    Toolbar1_ButtonClick(5);
+    EXPECT_EQ(boxes(), Boxes{information("No records to Edit!")});
+    EXPECT_FALSE(MDIInlet.Toolbar1[5].checked);
+}
+
 TEST_F(WorkspaceTest, SeparatorsDoNothing) {
     show_with(1);
     for (const int index : {0, 2, 4, 6, 8, 9, 11, 12, 14, 15, 17}) {
