@@ -18,6 +18,7 @@ namespace gullymark::editor {
 struct InletForm {
     InletScreen screen{.record = &engine::open_inlet};
     bool loaded = false;
+    int begun = 0;  // rises with every Add, Copy and Edit: none of the pages was visited since
     std::optional<FieldId> focused;           // the field that was entered and not left
     std::optional<FieldId> wanted_focus;      // the focus is to go there
     std::optional<FieldId> wanted_selection;  // the whole text of that field is to be selected

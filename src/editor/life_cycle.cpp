@@ -78,7 +78,7 @@ void load_inlet_editor() {
 }
 
 void unload_inlet_editor() {
-    frminletMDIC = {};
+    frminletMDIC = {.begun = frminletMDIC.begun};
     engine::open_inlet = {};
 }
 

@@ -70,6 +70,7 @@ void go_to_new_row() {
         Activate_menu("View");
         return;
     }
+    ++frminletMDIC.begun;
     update_currentstatusbar();
     enter(Inlet_Number);
     frminletMDIC.wanted_focus = Inlet_Number;
@@ -185,6 +186,7 @@ void RestoreInletFields() {
 
 void SetEditRecord() {
     DataSolved = false;
+    ++frminletMDIC.begun;
     Activate_menu("Edit");
 }
 

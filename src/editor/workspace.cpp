@@ -12,6 +12,7 @@
 namespace gullymark::editor {
 namespace {
 
+using platform::Answer;
 using platform::BoxKind;
 using enum FieldId;
 
@@ -163,7 +164,7 @@ void mnuflexcopyinlet_Click() {
         return;
     }
     if (platform::ask("Copy Inlet -  " + current_grid_number() + " - Data as a New Inlet?",
-                      BoxKind::information_question)) {
+                      BoxKind::information_question, platform::application_title, Answer::yes)) {
         SetCopyrecord();
     }
 }

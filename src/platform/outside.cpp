@@ -12,8 +12,8 @@ void tell(const std::string& text, BoxKind kind, const std::string& title) {
     }
 }
 
-bool ask(const std::string& text, BoxKind kind, const std::string& title) {
-    return outside.show_box && outside.show_box({kind, text, title}) == Answer::yes;
+bool ask(const std::string& text, BoxKind kind, const std::string& title, Answer on_enter) {
+    return outside.show_box && outside.show_box({kind, text, title, on_enter}) == Answer::yes;
 }
 
 void show_wait_pointer(bool waiting) {

@@ -21,6 +21,7 @@ struct Box {
     BoxKind kind = BoxKind::plain;
     std::string text;
     std::string title = application_title;
+    Answer on_enter = Answer::no;  // of a question: what the key Enter answers
 
     bool operator==(const Box&) const = default;
 };
@@ -61,9 +62,10 @@ extern Outside outside;
 void tell(const std::string& text, BoxKind kind = BoxKind::plain,
           const std::string& title = application_title);
 
-/// Asks and waits; true for Yes. Without `show_box` the answer is No.
+/// Asks and waits; true for Yes. `on_enter` is what the key Enter answers: No, where a Yes takes something away.
+/// Without `show_box` the answer is No.
 bool ask(const std::string& text, BoxKind kind = BoxKind::warning_question,
-         const std::string& title = application_title);
+         const std::string& title = application_title, Answer on_enter = Answer::no);
 
 // The functions of the table of the same names; each does nothing where nobody set its own.
 void show_wait_pointer(bool waiting);

@@ -112,9 +112,13 @@ void Binder::watch(Bound& bound, QWidget& widget) {
     }
     if (auto* tabs = qobject_cast<QTabWidget*>(&widget)) {
         tabs_ = tabs;
-        connect(tabs, &QTabWidget::currentChanged, this, [&item](int page) {
+        connect(tabs, &QTabWidget::currentChanged, this, [this, &item](int page) {
             if (item.turned) {
                 handle([&] { item.turned(page); });
+            }
+            // Who walks over the tabs by arrow keys stays there.
+            if (!showing() && QGuiApplication::mouseButtons() != Qt::NoButton) {
+                begin_page(page);
             }
         });
     }

@@ -66,6 +66,8 @@ class Binder : public QObject {
     void select_all(const std::string& name);
     /// As the Tab key.
     void move_on();
+    /// The next visit of each page begins in its first field, not in the one that the user was last in.
+    void forget_visits();
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -86,6 +88,9 @@ class Binder : public QObject {
     /// The page that a key turns to: the letter marked on its tab with Alt, or Ctrl and a page key; -1 for none.
     [[nodiscard]] int page_of(const QKeyEvent& press) const;
     void list_opened(const QWidget& popup);
+    void turn_to(int page);
+    /// The first visit of a page begins in its first field.
+    void begin_page(int page);
     void focus_came(QWidget* widget);
     void enter_where_focus_is();
     void enter_later();

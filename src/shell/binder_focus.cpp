@@ -125,7 +125,7 @@ bool Binder::filter_key(const QKeyEvent& press) {
         return moves_on(press) && !leave_field();
     }
     if (leave_field()) {
-        tabs_->setCurrentIndex(page);
+        turn_to(page);
     }
     return true;
 }
@@ -281,6 +281,42 @@ void Binder::select_text() {
             }
         },
         Qt::QueuedConnection);
+}
+
+/// A page remembers the field in which the focus was; the toolkit puts it there again, else into the first one.
+void Binder::forget_visits() {
+    for (int page = 0; tabs_ != nullptr && page < tabs_->count(); ++page) {
+        QWidget* field = tabs_->widget(page)->focusWidget();
+        if (field != nullptr && field != window_.focusWidget()) {
+            field->clearFocus();
+        }
+    }
+}
+
+/// The page and its first field, which the user sees only once the logic has set the page up. So the toolkit must not
+/// choose before: it finds the focus outside of the pages.
+void Binder::turn_to(int page) {
+    const bool first_visit = tabs_->widget(page)->focusWidget() == nullptr;
+    if (first_visit && tabs_->currentWidget()->isAncestorOf(window_.focusWidget())) {
+        tabs_->tabBar()->setFocus(Qt::OtherFocusReason);
+    }
+    tabs_->setCurrentIndex(page);
+    begin_page(page);
+}
+
+void Binder::begin_page(int page) {
+    const QWidget* shown = tabs_->widget(page);
+    if (shown->focusWidget() != nullptr) {
+        return;
+    }
+    for (const Bound& bound : bound_) {
+        QWidget& widget = *bound.widgets.front();
+        const bool can_be_entered = (widget.focusPolicy() & Qt::TabFocus) != 0 && widget.isEnabled();
+        if (can_be_entered && shown->isAncestorOf(&widget) && widget.isVisibleTo(shown)) {
+            widget.setFocus(Qt::TabFocusReason);
+            return;
+        }
+    }
 }
 
 void Binder::move_on() {

@@ -51,7 +51,7 @@ Answer show_box(const platform::Box& box) {
     window.setText(QString::fromStdString(box.text));
     if (is_question(box.kind)) {
         window.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-        window.setDefaultButton(QMessageBox::No);
+        window.setDefaultButton(box.on_enter == Answer::yes ? QMessageBox::Yes : QMessageBox::No);
         window.setEscapeButton(QMessageBox::No);
         return window.exec() == QMessageBox::Yes ? Answer::yes : Answer::no;
     }

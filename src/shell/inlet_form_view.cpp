@@ -37,6 +37,9 @@ void InletFormView::follow_units() {
 }
 
 void InletFormView::carry_out_wishes() {
+    if (std::exchange(begun_, frminletMDIC.begun) != frminletMDIC.begun) {
+        binder_->forget_visits();
+    }
     if (const auto wanted = std::exchange(frminletMDIC.wanted_focus, std::nullopt)) {
         binder_->focus(std::string(editor::field_name(*wanted)));
     }

@@ -30,6 +30,7 @@ class InletFormView : public QWidget {
 
     std::unique_ptr<Ui::frminletMDIC> ui_;
     Binder* binder_ = nullptr;
+    int begun_ = 0;                       // the inlet that the pages were visited for
     std::optional<std::string> tips_in_;  // the units that the tool tips tell
 };
 

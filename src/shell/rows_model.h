@@ -17,7 +17,7 @@ struct RowsSource {
     std::function<std::string(int row, std::size_t column)> cell;
 };
 
-/// A list of inlets of the logic as a model: a row is read when it is looked at.
+/// A list of inlets of the logic as a model: it shows what the list's last query read.
 class RowsModel : public QAbstractTableModel {
   public:
     RowsModel(QObject* owner, RowsSource source);

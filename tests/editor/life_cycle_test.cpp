@@ -58,7 +58,7 @@ TEST_F(LifeCycle, AfterAnAddTheLastRowIsSelectedWhereverTheNewOneSorts) {
 TEST_F(LifeCycle, AddShowsTheStoresErrorWhenTheFileIsClosed) {
     store::project_store.connection.close();
     mnuAddinlet_Click();
-    EXPECT_EQ(boxes(), Boxes{plain("the connection is not open")});
+    EXPECT_EQ(boxes(), Boxes{plain("no project file is open")});
     EXPECT_EQ(mode(), "VIEW") << "what is typed could never be saved";
 }
 
@@ -67,9 +67,9 @@ TEST_F(LifeCycle, AddShowsTheStoresErrorWhenTheFileIsClosed) {
 TEST_F(LifeCycle, CopyAndEditShowTheStoresErrorWhenTheFileIsClosed) {
     store::project_store.connection.close();
     mnuflexcopyinlet_Click();
-    EXPECT_EQ(boxes(), Boxes{plain("the connection is not open")});
+    EXPECT_EQ(boxes(), Boxes{plain("no project file is open")});
     mnuEditinlet_Click();
-    EXPECT_EQ(boxes(), Boxes{plain("the connection is not open")});
+    EXPECT_EQ(boxes(), Boxes{plain("no project file is open")});
     EXPECT_EQ(mode(), "VIEW");
 }
 
@@ -87,9 +87,9 @@ TEST_F(LifeCycle, ACopyTakesTheDataButNoNumberNoPreviousInletsAndNoResults) {
 
     user.answers = {Answer::yes};
     mnuflexcopyinlet_Click();
-    EXPECT_EQ(
-        boxes(),
-        (Boxes{{.kind = BoxKind::information_question, .text = "Copy Inlet -  2 - Data as a New Inlet?"}}));
+    EXPECT_EQ(boxes(), (Boxes{{.kind = BoxKind::information_question,
+                               .text = "Copy Inlet -  2 - Data as a New Inlet?",
+                               .on_enter = Answer::yes}}));
     EXPECT_EQ(mode(), "ADD");
     EXPECT_FALSE(engine::DataSolved);
     EXPECT_EQ(frminletMDIC.wanted_focus, Inlet_Number);

@@ -144,9 +144,10 @@ constexpr auto box_kinds = std::to_array<std::pair<std::string_view, BoxKind>>({
 struct ToldBox {
     Box box;
     Answer answer = Answer::ok;
+    bool by_enter = false;  // the answer is what the key Enter gives
 };
 
-/// box KIND "text" [titled "title"] [answer Yes|No]
+/// box KIND "text" [titled "title"] [answer Yes|No|Enter]
 ToldBox told_box(const std::vector<Word>& words) {
     ToldBox told;
     std::string kind;
@@ -161,6 +162,7 @@ ToldBox told_box(const std::vector<Word>& words) {
     }
     if (at + 1 < words.size() && words[at].text == "answer") {
         told.answer = words[at + 1].text == "Yes" ? Answer::yes : Answer::no;
+        told.by_enter = words[at + 1].text == "Enter";
         at += 2;
     }
     for (const auto& [name, box_kind] : box_kinds) {
@@ -169,7 +171,8 @@ ToldBox told_box(const std::vector<Word>& words) {
             return told;
         }
     }
-    throw std::runtime_error("a box is told as: box KIND \"text\" [titled \"title\"] [answer Yes or No]");
+    throw std::runtime_error(
+        "a box is told as: box KIND \"text\" [titled \"title\"] [answer Yes, No or Enter]");
 }
 
 /// As a road tells it.
@@ -218,14 +221,15 @@ Answer Road::answer(const Box& box) {
         return is_question ? Answer::no : Answer::ok;
     }
     number_ = lines_[next_].number;
-    const ToldBox told = told_box(lines_[next_++].words);
+    ToldBox told = told_box(lines_[next_++].words);
+    told.box.on_enter = box.on_enter;
     if (box != told.box) {
         fail("another box: " + box_text(box));
     }
     if (is_question != (told.answer != Answer::ok)) {
         fail("a question is answered Yes or No, and nothing else is");
     }
-    return told.answer;
+    return told.by_enter ? box.on_enter : told.answer;
 }
 
 std::optional<std::string> Road::choose_file() {

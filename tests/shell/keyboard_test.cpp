@@ -111,6 +111,82 @@ INSTANTIATE_TEST_SUITE_P(Kinds, TabOrder,
                          testing::Values(KindOfInlet{0, 0}, KindOfInlet{2, 1}, KindOfInlet{4, 0},
                                          KindOfInlet{1, 1}));
 
+/// The field in which the focus is.
+std::string focus() {
+    const QWidget* now = workspace().focusWidget();
+    return now == nullptr ? "" : now->objectName().toStdString();
+}
+
+void begin_inlet(const char* number) {
+    press(workspace(), Qt::Key_N, Qt::ControlModifier);
+    activate(workspace());
+    type(workspace(), number);
+}
+
+TEST(Keyboard, TheFirstVisitOfAPageBeginsInItsFirstFieldAndALaterOneWhereTheUserWas) {
+    NewRoad road;
+    for (const char* number : {"I-1", "I-2"}) {
+        begin_inlet(number);
+        EXPECT_EQ(focus(), "Inlet_Number");
+        press(workspace(), Qt::Key_L, Qt::AltModifier);
+        EXPECT_EQ(focus(), "storm_frequency") << number;
+        press(workspace(), Qt::Key_Tab);
+        const std::string left_in = focus();
+        EXPECT_NE(left_in, "storm_frequency");
+        press(workspace(), Qt::Key_PageDown, Qt::ControlModifier);
+        EXPECT_EQ(focus(), "txtS") << number;
+        press(workspace(), Qt::Key_L, Qt::AltModifier);
+        EXPECT_EQ(focus(), left_in) << number;
+        road.robot.answers.push_back(QMessageBox::Yes);
+        press(workspace(), Qt::Key_Q, Qt::ControlModifier);
+        activate(workspace());
+    }
+    road.leave();
+}
+
+void click_on_tab(int tab) {
+    QTabBar* tabs = workspace().findChild<QTabWidget*>("SSTab1")->tabBar();
+    click(*tabs, tabs->tabRect(tab).center());
+}
+
+TEST(Keyboard, AFirstVisitByAClickOnTheTabBeginsInTheFirstFieldTooAndArrowKeysStayOnTheTabs) {
+    NewRoad road;
+    begin_inlet("I-1");
+    click_on_tab(1);
+    EXPECT_EQ(focus(), "storm_frequency");
+    QTabBar* tabs = workspace().findChild<QTabWidget*>("SSTab1")->tabBar();
+    tabs->setFocus();
+    settle();
+    press(workspace(), Qt::Key_Right);
+    EXPECT_EQ(page(), 2);
+    EXPECT_TRUE(tabs->hasFocus());
+    road.leave();
+}
+
+TEST(Keyboard, EnterAnswersTheCopyWithYesAndQuestionsThatTakeSomethingAwayWithNo) {
+    NewRoad road;
+    save_a_curb_inlet();
+    road.robot.boxes.clear();
+    road.robot.strikes_enter = true;
+    choose(workspace(), "mnufile", "mnuflexcopyinlet");
+    activate(workspace());
+    EXPECT_EQ(mode(), "ADD");
+    type(workspace(), "I-2");
+    press(workspace(), Qt::Key_Q, Qt::ControlModifier);
+    activate(workspace());
+    EXPECT_EQ(mode(), "ADD") << "nothing typed is lost by Enter";
+    road.robot.strikes_enter = false;
+    road.robot.answers.push_back(QMessageBox::Yes);
+    press(workspace(), Qt::Key_Q, Qt::ControlModifier);
+    activate(workspace());
+    road.robot.strikes_enter = true;
+    choose(workspace(), "mnufile", "mnuflexdeleteinlet");
+    activate(workspace());
+    EXPECT_EQ(saved(road, "INLET_NUMBER"), "I-1");
+    EXPECT_EQ(road.robot.boxes.size(), 4U);
+    road.leave();
+}
+
 TEST(Keyboard, InViewTabGoesBetweenThePagesAndTheGrid) {
     NewRoad road;
     EXPECT_EQ(mode(), "VIEW");

@@ -78,6 +78,7 @@ class Robot {
     /// For the next boxes; after them the default button.
     std::deque<QMessageBox::StandardButton> answers;
     std::vector<platform::Box> boxes;
+    bool strikes_enter = false;  // in place of the click on a button of a box
     /// Names typed into the next file dialogs; nothing cancels.
     std::deque<std::optional<std::string>> files;
     std::vector<std::string> file_titles;
@@ -132,9 +133,13 @@ class Robot {
     }
 
     void answer(QMessageBox& box) {
-        boxes.push_back({.kind = kind_of(box),
-                         .text = box.text().toStdString(),
-                         .title = box.windowTitle().toStdString()});
+        boxes.push_back(
+            {.kind = kind_of(box),
+             .text = box.text().toStdString(),
+             .title = box.windowTitle().toStdString(),
+             .on_enter = box.defaultButton() != nullptr && box.defaultButton() == box.button(QMessageBox::Yes)
+                             ? platform::Answer::yes
+                             : platform::Answer::no});
         QAbstractButton* button = box.defaultButton();
         if (ask_box) {
             button = box.button(button_of(ask_box(boxes.back())));
@@ -145,7 +150,11 @@ class Robot {
             button = box.button(QMessageBox::Ok);
         }
         ASSERT_NE(button, nullptr) << "no such button in the box \"" << box.text().toStdString() << '"';
-        QTest::mouseClick(button, Qt::LeftButton);
+        if (strikes_enter) {
+            QTest::keyClick(box.windowHandle(), Qt::Key_Return);
+        } else {
+            QTest::mouseClick(button, Qt::LeftButton);
+        }
     }
 
     void choose_file(QFileDialog& dialog) {
