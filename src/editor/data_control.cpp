@@ -26,7 +26,9 @@ void DataControl::refresh() {
         }
         platform::RowSet queried;
         queried.open(connection, statement);
-        texts = queried.read_texts();
+        if (!queried.has_same_rows(rows)) {
+            texts = queried.read_texts();
+        }
         rows = std::move(queried);
         failure.clear();
     } catch (const platform::Failure& why) {

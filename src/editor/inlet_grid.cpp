@@ -20,7 +20,7 @@ void load_inlet_grid() {
     frmgrid.loaded = true;
     ++frmgrid.loads;
     platform::show_wait_pointer(true);
-    MDIInlet.Adodc1 = {.statement = store::select_grid};
+    MDIInlet.Adodc1.statement = store::select_grid;
     ignore_failure([] { MDIInlet.Adodc1.refresh(); });
     platform::show_wait_pointer(false);
     if (MDIInlet.Adodc1.record_count() >= 1) {

@@ -52,7 +52,7 @@ class Connection {
     /// True while writes are refused; false when nothing is open.
     [[nodiscard]] bool refuses_writes() const;
 
-    /// Closes the file for this connection and its row sets. Fails when the connection is not open.
+    /// Closes the file for this connection and its row sets. Fails when no file is open.
     void close();
 
     /// True from a successful `open` to the close.
@@ -113,6 +113,8 @@ class RowSet {
     /// case counting. Any other form of condition is a failure. A search that fails leaves the set at its end too:
     /// what reads or saves the current row after it must not come upon another row than the one searched for.
     void find(const std::string& condition);
+    /// True when both were queried from one state of the file: nothing was stored in it in between.
+    [[nodiscard]] bool has_same_rows(const RowSet& other) const;
     /// A mark that finds the current row again, also after `requery`.
     [[nodiscard]] std::int64_t bookmark() const;
     /// Back to a marked row. A row that is no longer in the set is a failure, and the position stays.

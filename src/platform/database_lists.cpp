@@ -21,23 +21,22 @@ TextRows read_texts(sqlite3* file, const std::string& table, const std::vector<s
                     const Keys& keys) {
     Statement query(file, select_with_key(table, columns));
     Keys keys_in_file;
-    TextRows in_file(columns.size());
+    TextRows texts(columns.size());
     while (query.step()) {
         keys_in_file.push_back(query.integer(0));
         for (std::size_t column = 0; column < columns.size(); ++column) {
-            in_file.add(query.text_view(static_cast<int>(column) + 1));
+            texts.add(query.text_view(static_cast<int>(column) + 1));
         }
     }
-    TextRows in_order(columns.size());
+    std::vector<std::size_t> order;
+    order.reserve(keys.size());
     for (const auto key : keys) {
         const auto at = std::ranges::lower_bound(keys_in_file, key);
         const bool is_there = at != keys_in_file.end() && *at == key;
-        const auto row = is_there ? static_cast<std::size_t>(at - keys_in_file.begin()) : in_file.count();
-        for (std::size_t column = 0; column < columns.size(); ++column) {
-            in_order.add(in_file.text(row, column));
-        }
+        order.push_back(is_there ? static_cast<std::size_t>(at - keys_in_file.begin()) : keys_in_file.size());
     }
-    return in_order;
+    texts.put_in_order(std::move(order));
+    return texts;
 }
 
 Row read_values(sqlite3* file, const std::string& table, const std::string& column, const Keys& keys) {

@@ -50,7 +50,7 @@ struct RowSet::State {
 
     [[nodiscard]] sqlite3* file() const {
         if (handle->file == nullptr) {
-            throw Failure("the connection is not open");
+            throw Failure("no project file is open");
         }
         return handle->file;
     }
@@ -188,7 +188,7 @@ RowSet& RowSet::operator=(RowSet&&) noexcept = default;
 
 RowSet::State& RowSet::state() const {
     if (!state_) {
-        throw Failure("the row set is not open");
+        throw Failure("nothing was read from the project file");
     }
     static_cast<void>(state_->file());
     return *state_;
@@ -196,7 +196,7 @@ RowSet::State& RowSet::state() const {
 
 void RowSet::open(const Connection& connection, const std::string& statement) {
     if (!connection.is_open()) {
-        throw Failure("the connection is not open");
+        throw Failure("no project file is open");
     }
     refuse_comments(statement);
     auto opened = std::make_unique<State>();
@@ -266,6 +266,10 @@ void RowSet::find(const std::string& condition) {
     const auto found = read_keys(query);
     const auto is_found = [&](std::int64_t key) { return std::ranges::binary_search(found, key); };
     set.go(std::find_if(set.keys->begin() + start, set.keys->end(), is_found) - set.keys->begin());
+}
+
+bool RowSet::has_same_rows(const RowSet& other) const {
+    return other.is_open() && state().keys == other.state().keys;
 }
 
 std::int64_t RowSet::bookmark() const {

@@ -85,6 +85,7 @@ void read_session() {
 }
 
 void prepare_form() {
+    frmProject.read = false;
     fill_lists();
     get_project_records();
     attach_project_datasource();
@@ -102,6 +103,11 @@ void prepare_form() {
 
 /// All eight fields, and whatever else the row holds.
 void write_row() {
+    const Failure unread(
+        "The project was not read from its file.  Please close this window and open it again");
+    if (!frmProject.brookprojrs.is_open()) {
+        throw Failure(unread);
+    }
     const auto& columns = frmProject.brookprojrs.columns();
     platform::Row row = frmProject.adding ? platform::Row(columns.size()) : frmProject.brookprojrs.row();
     for (const DetailsField& entry : details_fields) {
@@ -110,6 +116,9 @@ void write_row() {
             throw Failure("The project has no column " + std::string(entry.column) + ".");
         }
         row.at(static_cast<std::size_t>(at - columns.begin())) = (frmProject.*entry.field).text;
+    }
+    if (!frmProject.adding && !frmProject.read) {
+        throw Failure(unread);
     }
     frmProject.brookprojrs.save(row);
 }
@@ -182,6 +191,7 @@ void attach_project_datasource() {
         set_field_text(frmProject.*entry.field,
                        empty ? "" : frmProject.brookprojrs.value(entry.column).value_or(""));
     }
+    frmProject.read = true;
 }
 
 void addnewproject() {

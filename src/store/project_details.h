@@ -30,6 +30,7 @@ struct ProjectDetails {
     platform::RowSet brookprojrs;
     bool adding = false;   // between `addnewproject` and a save
     bool changed = false;  // from the first edit of the row
+    bool read = false;     // the fields show what the file holds: they may be stored over it
     bool loaded = false;   // a hidden form stays loaded and keeps its texts
     bool visible = false;
 };

@@ -68,6 +68,9 @@ InletUsage find_inlet_usage(std::string_view inlet_number, std::string_view word
     if (names_previous_inlet) {
         session.ReferencingInletNumber = "";
     }
+    if (inlet_number.empty()) {
+        return false;
+    }
     try {
         platform::RowSet inlets;
         inlets.open(project_store.connection, statement);

@@ -41,7 +41,8 @@ inline constexpr const char* select_grid =
 
 /// True when a row has `inlet_number` in the column named by `word`: "INLET_NUMBER", "PREINLET1" or "PREINLET2". Any
 /// other word finds nothing. The two previous-inlet words also set `session.ReferencingInletNumber` to the
-/// INLET_NUMBER of the first row found, "" when there is none.
+/// INLET_NUMBER of the first row found, "" when there is none. An empty number is no inlet's: a row that has it as its
+/// previous inlet has none.
 /// On failure: a plain box with its description, and false.
 bool CheckInletUsage(std::string_view inlet_number, std::string_view word);
 

@@ -138,7 +138,7 @@ TEST_F(DatabaseFaultsTest, AFileThatIsLockedWhenItIsCheckedIsNotTakenForDamaged)
 TEST_F(DatabaseFaultsTest, ASoundFileIsWrittenAfterItWasChecked) {
     make_project();
     Connection connection;
-    EXPECT_EQ(failure_text([&] { connection.check(); }), "the connection is not open");
+    EXPECT_EQ(failure_text([&] { connection.check(); }), "no project file is open");
     connection.open(path);
     connection.check();
     EXPECT_FALSE(connection.refuses_writes());

@@ -35,8 +35,8 @@ TEST_F(ConnectionTest, ItIsOpenUntilItIsClosed) {
 
 TEST_F(ConnectionTest, AClosedOneRefusesEverything) {
     connection.close();
-    EXPECT_EQ(failure_text([&] { connection.close(); }), "the connection is not open");
-    EXPECT_EQ(failure_text([&] { connection.execute("DELETE FROM INLET"); }), "the connection is not open");
+    EXPECT_EQ(failure_text([&] { connection.close(); }), "no project file is open");
+    EXPECT_EQ(failure_text([&] { connection.execute("DELETE FROM INLET"); }), "no project file is open");
 }
 
 TEST_F(ConnectionTest, ASecondOpenTakesThePlaceOfTheFirst) {

@@ -81,10 +81,11 @@ TEST_F(RowSetTest, ASetThatIsNotOpenRefusesEverything) {
     inlets.close();
     EXPECT_FALSE(inlets.is_open());
     inlets.close();
-    EXPECT_EQ(failure_text([&] { static_cast<void>(inlets.record_count()); }), "the row set is not open");
-    EXPECT_EQ(failure_text([&] { inlets.requery(); }), "the row set is not open");
-    EXPECT_EQ(failure_text([&] { inlets.cancel(); }), "the row set is not open");
-    EXPECT_EQ(failure_text([&] { inlets.open(Connection(), all_inlets); }), "the connection is not open");
+    EXPECT_EQ(failure_text([&] { static_cast<void>(inlets.record_count()); }),
+              "nothing was read from the project file");
+    EXPECT_EQ(failure_text([&] { inlets.requery(); }), "nothing was read from the project file");
+    EXPECT_EQ(failure_text([&] { inlets.cancel(); }), "nothing was read from the project file");
+    EXPECT_EQ(failure_text([&] { inlets.open(Connection(), all_inlets); }), "no project file is open");
 }
 
 TEST_F(RowSetTest, ASetWhoseConnectionClosedRefusesEverything) {
@@ -95,10 +96,10 @@ TEST_F(RowSetTest, ASetWhoseConnectionClosedRefusesEverything) {
              [&] { inlets.requery(); }, [&] { static_cast<void>(inlets.row()); },
              [&] { inlets.find("STATION = '1'"); }, [&] { inlets.add_new(); }, [&] { inlets.save(Row(4)); },
              [&] { inlets.remove(); }}) {
-        EXPECT_EQ(failure_text(use), "the connection is not open");
+        EXPECT_EQ(failure_text(use), "no project file is open");
     }
     connection.open(path);
-    EXPECT_EQ(failure_text([&] { static_cast<void>(inlets.row()); }), "the connection is not open");
+    EXPECT_EQ(failure_text([&] { static_cast<void>(inlets.row()); }), "no project file is open");
 }
 
 TEST_F(RowSetTest, MovesStopAtTheEndMarkers) {

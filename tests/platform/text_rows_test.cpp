@@ -20,6 +20,20 @@ TEST(TextRows, HasTheTextsThatWereAdded) {
     EXPECT_EQ(rows.text(1, 1), "11+00");
 }
 
+TEST(TextRows, ArePutInAnyOrder) {
+    TextRows rows(2);
+    for (const char* text : {"A1", "10+00", "A2", "11+00", "A3", "12+00"}) {
+        rows.add(text);
+    }
+    rows.put_in_order({2, 0, 7, 0});
+    EXPECT_EQ(rows.count(), 4U);
+    EXPECT_EQ(rows.text(0, 1), "12+00");
+    EXPECT_EQ(rows.text(1, 0), "A1");
+    EXPECT_EQ(rows.text(2, 0), "") << "never added";
+    EXPECT_EQ(rows.text(3, 1), "10+00");
+    EXPECT_EQ(rows.text(4, 0), "");
+}
+
 TEST(TextRows, ACellThatIsNotThereIsEmpty) {
     TextRows rows(2);
     rows.add("A1");
@@ -56,6 +70,21 @@ TEST_F(RowSetTest, ARowThatIsGoneHasEmptyTextsAndTheOthersStayInTheirPlaces) {
     EXPECT_EQ(texts.text(0, 0), "1");
     EXPECT_EQ(texts.text(1, 0), "");
     EXPECT_EQ(texts.text(2, 0), "2");
+}
+
+TEST_F(RowSetTest, TwoSetsHaveTheSameRowsUntilSomethingIsStored) {
+    RowSet others;
+    EXPECT_FALSE(inlets.has_same_rows(others)) << "not open";
+    others.open(connection, all_inlets);
+    EXPECT_TRUE(others.has_same_rows(inlets));
+    run_sql(path, "UPDATE INLET SET STATION = 'new' WHERE INLET_NUMBER = '10'");
+    others.requery();
+    EXPECT_FALSE(others.has_same_rows(inlets));
+    inlets.requery();
+    EXPECT_TRUE(others.has_same_rows(inlets));
+    connection.execute("UPDATE INLET SET STATION = 'newer' WHERE INLET_NUMBER = '10'");
+    others.requery();
+    EXPECT_FALSE(others.has_same_rows(inlets));
 }
 
 TEST_F(RowSetTest, ReadingTextsHoldsNoLock) {

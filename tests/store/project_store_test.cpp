@@ -185,8 +185,7 @@ TEST_F(CheckInletUsageTest, AFileThatCannotBeReadIsNotTakenForOneWithoutTheRow) 
 TEST_F(CheckInletUsageTest, WithoutAnOpenConnectionItShowsThatAndFindsNothing) {
     project_store.connection.close();
     EXPECT_FALSE(CheckInletUsage("2", "INLET_NUMBER"));
-    EXPECT_EQ(outside.boxes,
-              (std::vector<Box>{{BoxKind::plain, "the connection is not open", "GullymarkAL"}}));
+    EXPECT_EQ(outside.boxes, (std::vector<Box>{{BoxKind::plain, "no project file is open", "GullymarkAL"}}));
 }
 
 }  // namespace
