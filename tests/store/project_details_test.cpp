@@ -324,24 +324,6 @@ TEST_F(DetailsForm, ASaveThatFailsIsToldAndEndsThere) {
     EXPECT_EQ(session.projectName, "Mill Road");
 }
 
-TEST_F(DetailsForm, ARowThatCouldNotBeReadIsNotOverwrittenByEmptyTexts) {
-    session.projectFilePath = make_project("a.gmk");
-    open_database();
-    testing_support::run_sql(session.projectFilePath, "ALTER TABLE PROJECT RENAME TO GONE");
-    load_details_form();
-    testing_support::run_sql(session.projectFilePath, "ALTER TABLE GONE RENAME TO PROJECT");
-    user.boxes.clear();
-    type("state", "AL");
-    frmProject.project_id.text = "P-1";
-    mnuprojsave_Click();
-    EXPECT_EQ(user.boxes,
-              (Boxes{{BoxKind::plain,
-                      "The project was not read from its file.  Please close this window and open it again",
-                      "GullymarkAL"}}));
-    EXPECT_EQ(stored("a.gmk")["PROJECT_NAME"], "Mill Road");
-    EXPECT_EQ(stored("a.gmk")["DESCRIPTION"], "Widening");
-}
-
 TEST_F(DetailsForm, CancelReadsTheRowAgain) {
     load_on_row();
     type("project_name", "Mill Lane");
