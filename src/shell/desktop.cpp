@@ -98,7 +98,7 @@ class OneFileDialog : public QFileDialog {
                                  text + "\nFile not found.\nPlease verify the correct file name was given.");
         } else {
             typed_ = QDir::cleanPath(file.absoluteFilePath());
-            QDialog::accept();
+            done(Accepted);
         }
     }
 

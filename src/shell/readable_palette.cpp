@@ -15,7 +15,7 @@ namespace gullymark::shell {
 namespace {
 
 /// What the toolkit's style puts between these grounds, by shading them, is then readable too.
-constexpr double with_reserve = text_contrast + 1;
+constexpr double text_contrast_wanted = text_contrast + 1;
 
 /// A text and the ground that it stands on most.
 struct TextRole {
@@ -75,7 +75,7 @@ void set_disabled_texts(QPalette& palette) {
     for (const auto& role : disabled_texts) {
         const QColor pale = between(palette.color(QPalette::Active, role.text),
                                     palette.color(QPalette::Active, role.ground), paler);
-        put(palette, QPalette::Disabled, role.text, readable(pale, grounds, with_reserve));
+        put(palette, QPalette::Disabled, role.text, readable(pale, grounds, text_contrast_wanted));
     }
 }
 

@@ -19,6 +19,7 @@ RecordView::RecordView() : form_(new Ui::frminletMDIC) {
     scroll_pages(*form_->SSTab1);
     order_tabs(*this);
     setObjectName("frmviewinlet");
+    resize(sizeHint());
     new Binder(*this, record_view_items());  // owned by the window
     add_copying(*this, frmviewinlet.screen);
     add_view([this] { show_state(); });

@@ -70,7 +70,9 @@ class ScrolledPage : public QScrollArea {
 
   protected:
     /// The toolkit's own would bring the cursor into sight, and push a part of the field out of it.
-    bool focusNextPrevChild(bool next) override { return QWidget::focusNextPrevChild(next); }
+    bool focusNextPrevChild(bool next) override {
+        return QWidget::focusNextPrevChild(next);  // NOLINT(bugprone-parent-virtual-call)
+    }
 
   private:
     void bring_into_sight(const QWidget& field) {

@@ -20,13 +20,13 @@ constexpr const char* drawn_accent = "#1b74b8";
 constexpr const char* drawn_fill = "#e3f0f9";
 
 /// The tool bar's own shades stay readable too.
-constexpr double with_reserve = icon_contrast + 1;
+constexpr double icon_contrast_wanted = icon_contrast + 1;
 
 QByteArray in_colours_of(const QPalette& palette, QPalette::ColorGroup group, QByteArray drawing) {
     const std::array grounds{palette.color(group, QPalette::Window), palette.color(group, QPalette::Button)};
     const QColor text = palette.color(group, QPalette::ButtonText);
-    const QColor accent = readable(QColor(drawn_accent), grounds, with_reserve);
-    const QColor line = readable(between(text, grounds.front(), 0.2), grounds, with_reserve);
+    const QColor accent = readable(QColor(drawn_accent), grounds, icon_contrast_wanted);
+    const QColor line = readable(between(text, grounds.front(), 0.2), grounds, icon_contrast_wanted);
     drawing.replace(drawn_line, line.name().toLatin1());
     drawing.replace(drawn_accent,
                     group == QPalette::Disabled ? line.name().toLatin1() : accent.name().toLatin1());

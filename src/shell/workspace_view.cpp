@@ -15,7 +15,7 @@ using editor::MDIInlet;
 WorkspaceView::WorkspaceView() : ui_(new Ui::MDIInlet) {
     ui_->setupUi(this);
     ui_->fixed_splitter->setStretchFactor(1, 1);
-    ui_->fixed_splitter->setSizes({240, 1000});
+    ui_->fixed_splitter->setSizes({220, 1020});
     build_menu<editor::Workspace>(*this, editor::workspace_menu, MDIInlet);
     build_toolbar();
     screenmode_ = std::make_unique<StatusPanels>(*ui_->screenmode, std::vector<int>{0, 1, 0, 3}, false);

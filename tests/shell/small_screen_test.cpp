@@ -40,6 +40,22 @@ TEST(SmallScreen, EveryWindowOpensWithinTheScreenAndShowsItsButtonsAndBars) {
     });
 }
 
+TEST(SmallScreen, From1024PixelsOnNoPageScrollsSideways) {
+    if (QGuiApplication::primaryScreen()->availableSize().width() < 1024) {
+        GTEST_SKIP() << "a narrower screen";
+    }
+    int pages = 0;
+    tour_windows([&pages](const std::string& name, QWidget& window) {
+        for (auto* area : window.findChildren<QScrollArea*>()) {
+            if (area->isVisible() && area->objectName() == "fixed_scroll") {
+                EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << name;
+                ++pages;
+            }
+        }
+    });
+    EXPECT_GE(pages, 16);
+}
+
 TEST(SmallScreen, TheGridKeepsItsThreeColumnsReadable) {
     NewRoad road;
     save_a_curb_inlet();
