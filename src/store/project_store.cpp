@@ -69,7 +69,7 @@ InletUsage find_inlet_usage(std::string_view inlet_number, std::string_view word
         session.ReferencingInletNumber = "";
     }
     if (inlet_number.empty()) {
-        return false;
+        return InletUsage::no_row;
     }
     try {
         platform::RowSet inlets;

@@ -58,7 +58,8 @@ TEST(Reports, PrintReportFillsACopyOfItsTemplateWithTheCurrentInlet) {
     EXPECT_THAT(road.robot.boxes, IsEmpty());
     const std::string target = road.folder.path("first.xls");
     EXPECT_TRUE(read_file(target) == read_file(report_template("INLET_REPORTAL.xlr")));  // too long to show
-    EXPECT_THAT(read_file(road.said), HasSubstr("open\t" + target + "\tfirst\n"));
+    EXPECT_THAT(read_file(road.said), HasSubstr("open\t" + target + "\tfirst\t" + platform::program_folder() +
+                                                "/INLET_REPORTAL.xlr\n"));
     EXPECT_THAT(read_file(road.said), HasSubstr("\ntext\t8\t2\tI-1\n"));
     EXPECT_THAT(read_file(road.said), HasSubstr("\ntext\t9\t2\tCurb Inlet\n"));
     EXPECT_THAT(read_file(road.said), testing::EndsWith("\nshow\n"));
@@ -86,7 +87,8 @@ TEST(Reports, TheDesignFormFillsACopyOfItsTemplateWithAllInlets) {
     EXPECT_THAT(road.robot.boxes, IsEmpty());
     const std::string target = road.folder.path("form.xls");
     EXPECT_TRUE(read_file(target) == read_file(report_template("INLETDESIGNFORMAL.xlr")));
-    EXPECT_THAT(read_file(road.said), HasSubstr("open\t" + target + "\tactive\n"));
+    EXPECT_THAT(read_file(road.said), HasSubstr("open\t" + target + "\tactive\t" +
+                                                platform::program_folder() + "/INLETDESIGNFORMAL.xlr\n"));
     EXPECT_THAT(read_file(road.said), HasSubstr("\ntext\t15\t1\tI-1\n"));
 }
 

@@ -53,7 +53,7 @@ fill_flow_page() {
 }
 
 fill_inlet_page() {
-  press alt+i Tab
+  press alt+i
   in_field "90.02" Home Delete                     # LONGSLOPE 0.0200
   press Tab Tab Tab Tab Tab Tab Tab
   in_field "125" Home Delete                       # GRATEPERCLOG 25
