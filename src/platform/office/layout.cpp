@@ -25,8 +25,8 @@ using star::uno::Any;
 using star::uno::Reference;
 using star::uno::UNO_QUERY_THROW;
 
-constexpr int tries_to_freeze = 40;
-constexpr std::chrono::milliseconds pause_between_tries(50);
+constexpr int freezing_tries = 40;
+constexpr std::chrono::milliseconds pause_before_freezing(50);
 
 class Formats {
   public:
@@ -128,8 +128,8 @@ void freeze(const Workbook& workbook, int rows, int columns) {
     const Reference<star::sheet::XViewFreezable> view(workbook.model->getCurrentController(),
                                                       UNO_QUERY_THROW);
     // The office splits the window by its size, which it has some time after it is shown.
-    for (int tries = 0; tries < tries_to_freeze && !view->hasFrozenPanes(); ++tries) {
-        std::this_thread::sleep_for(pause_between_tries);
+    for (int tries = 0; tries < freezing_tries && !view->hasFrozenPanes(); ++tries) {
+        std::this_thread::sleep_for(pause_before_freezing);
         view->freezeAtPosition(columns, rows);
     }
 }
