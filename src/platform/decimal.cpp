@@ -13,7 +13,7 @@ static_assert(FLT_EVAL_METHOD == 0);
 
 __extension__ using Wide = unsigned __int128;
 
-constexpr int significant = 15;
+constexpr int most_digits = 15;
 
 constexpr auto powers_of_ten = [] {
     std::array<std::uint64_t, 20> powers{1};
@@ -31,7 +31,7 @@ std::uint64_t power_of_ten(int exponent) {
 Decimal digits_by_text(double number) {
     std::array<char, 32> buffer{};
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
-                                   std::chars_format::scientific, significant - 1)
+                                   std::chars_format::scientific, most_digits - 1)
                          .ptr;
     Decimal decimal;
     const char* at = buffer.data();
@@ -47,7 +47,7 @@ Decimal digits_by_text(double number) {
     at += at[1] == '+' ? 2 : 1;
     std::from_chars(at, end, decimal.point);
     ++decimal.point;
-    decimal.count = decimal.digits == 0 ? 0 : significant;
+    decimal.count = decimal.digits == 0 ? 0 : most_digits;
     return decimal;
 }
 
@@ -82,7 +82,7 @@ const char* skip_zeros(const char* at, const char* end) {
 
 /// Appends the digits that stand at `at`, as far as a whole number has room for them; the end of those taken.
 const char* take_digits(const char* at, const char* end, std::uint64_t& digits) {
-    const char* const last = end - at > significant + 1 ? at + significant + 1 : end;
+    const char* const last = end - at > most_digits + 1 ? at + most_digits + 1 : end;
     for (; at != last && *at >= '0' && *at <= '9'; ++at) {
         digits = digits * 10 + static_cast<std::uint64_t>(*at - '0');
     }
@@ -105,13 +105,13 @@ Decimal decimal_digits(double number) {
                         binary_exponent - 52};
     // The decimal exponent from the binary one, or one less: log10(2) is 315653 / 2^20.
     int exponent = static_cast<int>((std::int64_t(binary_exponent) * 315653) >> 20);
-    Wide product = scaled.product(significant - 1 - exponent);
-    if (scaled.whole(product) >= power_of_ten(significant)) {
+    Wide product = scaled.product(most_digits - 1 - exponent);
+    if (scaled.whole(product) >= power_of_ten(most_digits)) {
         ++exponent;
-        product = scaled.product(significant - 1 - exponent);
+        product = scaled.product(most_digits - 1 - exponent);
     }
-    Decimal decimal{scaled.rounded(product), significant, exponent + 1, number < 0.0};
-    if (decimal.digits == power_of_ten(significant)) {
+    Decimal decimal{scaled.rounded(product), most_digits, exponent + 1, number < 0.0};
+    if (decimal.digits == power_of_ten(most_digits)) {
         decimal.digits /= 10;
         ++decimal.point;
     }
@@ -134,7 +134,7 @@ bool read_plain_digits(std::string_view text, Decimal& decimal) {
     if (at == end) {
         decimal.count = static_cast<int>(count);
         decimal.point = decimal.count;
-        return end != start && count <= significant;
+        return end != start && count <= most_digits;
     }
     if (*at != '.' || end - start == 1) {
         return false;
@@ -146,7 +146,7 @@ bool read_plain_digits(std::string_view text, Decimal& decimal) {
     count += at - behind;
     decimal.count = static_cast<int>(count);
     decimal.point = static_cast<int>(count - (end - fraction));
-    return at == end && count <= significant;
+    return at == end && count <= most_digits;
 }
 
 bool read_exactly(const Decimal& decimal, double& number) {
