@@ -1,5 +1,7 @@
 #include "window_tour.h"
 
+#include <array>
+
 #include <QTableView>
 
 #include "catalogue/standards.h"
@@ -12,17 +14,15 @@ namespace {
 
 using Visit = std::function<void(const std::string& name, QWidget& window)>;
 
-constexpr Qt::KeyboardModifiers ctrl = Qt::ControlModifier;
-
-struct Page {
+struct TouredPage {
     Qt::Key letter;
     const char* name;
 };
-constexpr Page pages[] = {
-    {Qt::Key_D, "details"}, {Qt::Key_L, "flow data"}, {Qt::Key_I, "inlet data"}, {Qt::Key_R, "results"}};
+constexpr std::array toured_pages{TouredPage{Qt::Key_D, "details"}, TouredPage{Qt::Key_L, "flow data"},
+                                  TouredPage{Qt::Key_I, "inlet data"}, TouredPage{Qt::Key_R, "results"}};
 
 void visit_pages(const Visit& visit, const std::string& name, QWidget& window) {
-    for (const Page& page : pages) {
+    for (const TouredPage& page : toured_pages) {
         press(window, page.letter, Qt::AltModifier);
         visit(name + ' ' + page.name, window);
     }
@@ -51,7 +51,7 @@ void visit_splash_and_standards(const Visit& visit) {
 }
 
 void visit_listing_and_record(const Visit& visit) {
-    press(workspace(), Qt::Key_L, ctrl);
+    press(workspace(), Qt::Key_L, Qt::ControlModifier);
     QMainWindow& listing = RunningProgram::window("frminletflex");
     activate(listing);
     visit("listing", listing);
@@ -65,7 +65,7 @@ void visit_listing_and_record(const Visit& visit) {
         }
     }
     activate(listing);
-    press(listing, Qt::Key_Q, ctrl);
+    press(listing, Qt::Key_Q, Qt::ControlModifier);
 }
 
 }  // namespace
@@ -84,16 +84,16 @@ void tour_windows(const Visit& visit) {
         type(form, "P-1");
         press(form, Qt::Key_Tab);
         type(form, "Oak Street");
-        press(form, Qt::Key_S, ctrl);
+        press(form, Qt::Key_S, Qt::ControlModifier);
     });
     activate(workspace());
     visit("workspace empty", workspace());
     save_a_curb_inlet();
     visit_pages(visit, "workspace VIEW", workspace());
-    press(workspace(), Qt::Key_E, ctrl);
+    press(workspace(), Qt::Key_E, Qt::ControlModifier);
     visit_pages(visit, "workspace EDIT", workspace());
     program.robot.answers.push_back(QMessageBox::Yes);
-    press(workspace(), Qt::Key_Q, ctrl);
+    press(workspace(), Qt::Key_Q, Qt::ControlModifier);
     activate(workspace());
     program.robot.answers.push_back(QMessageBox::Yes);
     program.robot.in_window.emplace_back([](QWidget& renumber) { press(renumber, Qt::Key_Escape); });
@@ -101,13 +101,13 @@ void tour_windows(const Visit& visit) {
     activate(workspace());
     visit_listing_and_record(visit);
     activate(workspace());
-    press(workspace(), Qt::Key_N, ctrl);
+    press(workspace(), Qt::Key_N, Qt::ControlModifier);
     type(workspace(), "I-2");
     visit_pages(visit, "workspace ADD", workspace());
     program.robot.answers.push_back(QMessageBox::Yes);
-    press(workspace(), Qt::Key_Q, ctrl);
+    press(workspace(), Qt::Key_Q, Qt::ControlModifier);
     activate(workspace());
-    press(workspace(), Qt::Key_Q, ctrl);
+    press(workspace(), Qt::Key_Q, Qt::ControlModifier);
 }
 
 }  // namespace gullymark::testing_support
