@@ -280,7 +280,7 @@ void RowSet::go_to(std::int64_t bookmark) {
     auto& set = state();
     const auto found = std::ranges::find(*set.keys, bookmark);
     if (found == set.keys->end()) {
-        throw Failure("the bookmarked row is no longer in the set");
+        throw Failure("the row is no longer in the project");
     }
     set.go(found - set.keys->begin());
 }

@@ -230,7 +230,7 @@ TEST_F(RowSetTest, ABookmarkFindsItsRowAgainAfterARequery) {
     EXPECT_EQ(number(), "10");
     run_sql(path, "DELETE FROM INLET WHERE INLET_NUMBER = '10'");
     inlets.requery();
-    EXPECT_EQ(failure_text([&] { inlets.go_to(mark); }), "the bookmarked row is no longer in the set");
+    EXPECT_EQ(failure_text([&] { inlets.go_to(mark); }), "the row is no longer in the project");
     EXPECT_EQ(number(), "0");
 }
 
