@@ -7,7 +7,7 @@
 #include <array>
 #include <cerrno>
 #include <cstdarg>
-#include <cstdio>
+#include <cstdlib>
 #include <utility>
 
 namespace gullymark::faults {
@@ -97,8 +97,9 @@ ssize_t on_write(int file, const void* bytes, std::size_t count, std::uint64_t o
     return make(fate.written > 0 ? fate.written : count);
 }
 
-template <typename Make>
-int on_open(const char* path, int flags, Make make) {
+int on_open(const char* path, int flags, mode_t mode) {
+    static auto* const system = next<int(const char*, int, ...)>("open");
+    const auto make = [&] { return system(path, flags, mode); };
     if (!is_watched()) {
         return make();
     }
@@ -109,6 +110,33 @@ int on_open(const char* path, int flags, Make make) {
                                      : CallKind::open,
                       .path = absolute(path)},
                      make);
+}
+
+ssize_t on_read(int file, void* bytes, std::size_t count) {
+    static auto* const system = next<ssize_t(int, void*, std::size_t)>("read");
+    return on_file(CallKind::read, file, [&] { return system(file, bytes, count); });
+}
+
+ssize_t on_read_at(int file, void* bytes, std::size_t count, off_t offset) {
+    static auto* const system = next<ssize_t(int, void*, std::size_t, off_t)>("pread");
+    return on_file(CallKind::read, file, [&] { return system(file, bytes, count, offset); });
+}
+
+ssize_t on_write_at(int file, const void* bytes, std::size_t count, off_t offset) {
+    static auto* const system = next<ssize_t(int, const void*, std::size_t, off_t)>("pwrite");
+    return on_write(file, bytes, count, static_cast<std::uint64_t>(offset),
+                    [&](std::size_t part) { return system(file, bytes, part, offset); });
+}
+
+int on_cut(int file, off_t size) {
+    static auto* const system = next<int(int, off_t)>("ftruncate");
+    return on_file(
+        CallKind::cut, file, [&] { return system(file, size); }, static_cast<std::uint64_t>(size));
+}
+
+int on_sync(int file) {
+    static auto* const system = next<int(int)>("fsync");
+    return on_file(CallKind::sync, file, [&] { return system(file); });
 }
 
 }  // namespace
@@ -135,29 +163,39 @@ using gullymark::faults::CallKind;
 using gullymark::faults::next;
 
 int watched_open(const char* path, int flags, ...) __asm__("open");
-int watched_open64(const char* path, int flags, ...) __asm__("open64") __attribute__((alias("open")));
 int watched_open(const char* path, int flags, ...) {
-    static auto* const system = next<int(const char*, int, ...)>("open");
     va_list more;
     va_start(more, flags);
     const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
     va_end(more);
-    return gullymark::faults::on_open(path, flags, [&] { return system(path, flags, mode); });
+    return gullymark::faults::on_open(path, flags, mode);
+}
+int watched_open64(const char* path, int flags, ...) __asm__("open64");
+int watched_open64(const char* path, int flags, ...) {
+    va_list more;
+    va_start(more, flags);
+    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
+    va_end(more);
+    return gullymark::faults::on_open(path, flags, mode);
 }
 
 ssize_t watched_read(int file, void* bytes, std::size_t count) __asm__("read");
 ssize_t watched_read(int file, void* bytes, std::size_t count) {
-    static auto* const system = next<ssize_t(int, void*, std::size_t)>("read");
-    return gullymark::faults::on_file(CallKind::read, file, [&] { return system(file, bytes, count); });
+    return gullymark::faults::on_read(file, bytes, count);
+}
+// What a call becomes where the compiler knows the room that there is.
+ssize_t watched_read_chk(int file, void* bytes, std::size_t count, std::size_t room) __asm__("__read_chk");
+ssize_t watched_read_chk(int file, void* bytes, std::size_t count, std::size_t room) {
+    return count > room ? (std::abort(), -1) : gullymark::faults::on_read(file, bytes, count);
 }
 
 ssize_t watched_pread(int file, void* bytes, std::size_t count, off_t offset) __asm__("pread");
-ssize_t watched_pread64(int file, void* bytes, std::size_t count, off_t offset) __asm__("pread64")
-    __attribute__((alias("pread")));
 ssize_t watched_pread(int file, void* bytes, std::size_t count, off_t offset) {
-    static auto* const system = next<ssize_t(int, void*, std::size_t, off_t)>("pread");
-    return gullymark::faults::on_file(CallKind::read, file,
-                                      [&] { return system(file, bytes, count, offset); });
+    return gullymark::faults::on_read_at(file, bytes, count, offset);
+}
+ssize_t watched_pread64(int file, void* bytes, std::size_t count, off_t offset) __asm__("pread64");
+ssize_t watched_pread64(int file, void* bytes, std::size_t count, off_t offset) {
+    return gullymark::faults::on_read_at(file, bytes, count, offset);
 }
 
 ssize_t watched_write(int file, const void* bytes, std::size_t count) __asm__("write");
@@ -169,27 +207,30 @@ ssize_t watched_write(int file, const void* bytes, std::size_t count) {
 }
 
 ssize_t watched_pwrite(int file, const void* bytes, std::size_t count, off_t offset) __asm__("pwrite");
-ssize_t watched_pwrite64(int file, const void* bytes, std::size_t count, off_t offset) __asm__("pwrite64")
-    __attribute__((alias("pwrite")));
 ssize_t watched_pwrite(int file, const void* bytes, std::size_t count, off_t offset) {
-    static auto* const system = next<ssize_t(int, const void*, std::size_t, off_t)>("pwrite");
-    return gullymark::faults::on_write(file, bytes, count, static_cast<std::uint64_t>(offset),
-                                       [&](std::size_t part) { return system(file, bytes, part, offset); });
+    return gullymark::faults::on_write_at(file, bytes, count, offset);
+}
+ssize_t watched_pwrite64(int file, const void* bytes, std::size_t count, off_t offset) __asm__("pwrite64");
+ssize_t watched_pwrite64(int file, const void* bytes, std::size_t count, off_t offset) {
+    return gullymark::faults::on_write_at(file, bytes, count, offset);
 }
 
 int watched_ftruncate(int file, off_t size) __asm__("ftruncate");
-int watched_ftruncate64(int file, off_t size) __asm__("ftruncate64") __attribute__((alias("ftruncate")));
 int watched_ftruncate(int file, off_t size) {
-    static auto* const system = next<int(int, off_t)>("ftruncate");
-    return gullymark::faults::on_file(
-        CallKind::cut, file, [&] { return system(file, size); }, static_cast<std::uint64_t>(size));
+    return gullymark::faults::on_cut(file, size);
+}
+int watched_ftruncate64(int file, off_t size) __asm__("ftruncate64");
+int watched_ftruncate64(int file, off_t size) {
+    return gullymark::faults::on_cut(file, size);
 }
 
 int watched_fsync(int file) __asm__("fsync");
-int watched_fdatasync(int file) __asm__("fdatasync") __attribute__((alias("fsync")));
 int watched_fsync(int file) {
-    static auto* const system = next<int(int)>("fsync");
-    return gullymark::faults::on_file(CallKind::sync, file, [&] { return system(file); });
+    return gullymark::faults::on_sync(file);
+}
+int watched_fdatasync(int file) __asm__("fdatasync");
+int watched_fdatasync(int file) {
+    return gullymark::faults::on_sync(file);
 }
 
 int watched_rename(const char* path, const char* new_path) __asm__("rename");
