@@ -108,15 +108,23 @@ Designer::~Designer() {
 }
 
 void Designer::create(const std::string& path, const std::string& project_name) {
+    close_for_another();
     chosen_path_ = path;
     project_name_ = project_name;
     store::mnucreateProj_Click();
 }
 
 void Designer::open(const std::string& path) {
+    close_for_another();
     chosen_path_ = path;
     project_name_.clear();
     store::mnuopenProj_Click();
+}
+
+void Designer::close_for_another() {
+    if (MDIInlet.visible || !store::frmsoftwaremain.mnuopenProj.enabled) {
+        close();
+    }
 }
 
 void Designer::close() {

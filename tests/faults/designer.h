@@ -25,7 +25,7 @@ class Designer {
 
     /// Create, overwriting what is there; the details form is left unsaved, or saved with this name.
     void create(const std::string& path, const std::string& project_name = "");
-    /// Open, to the workspace.
+    /// Open, to the workspace. Here and in create, a project that is open is closed first.
     void open(const std::string& path);
     /// The workspace and the project are closed.
     void close();
@@ -62,6 +62,9 @@ class Designer {
     [[nodiscard]] static std::string number_in(int row);
 
   private:
+    /// The commands for a project are off while another is open.
+    void close_for_another();
+
     std::string chosen_path_;
     std::string project_name_;
 };
