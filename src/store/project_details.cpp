@@ -167,7 +167,10 @@ void lock_existing_row() {
     frmProject.mnuprojcancel.enabled = true;
     allow_entry(frmProject.project_id, false);
     allow_entry(frmProject.units, false);
-    session.projectUnits = frmProject.units.text;
+    // A form that could not be read shows the units of its list, not those of the project.
+    if (frmProject.read) {
+        session.projectUnits = frmProject.units.text;
+    }
 }
 
 void unload_details_form() {
@@ -177,11 +180,17 @@ void unload_details_form() {
 void get_project_records() {
     tell_failure([] {
         session.productName.clear();
-        frmProject.brookprojrs = platform::RowSet();
-        frmProject.brookprojrs.open(project_store.connection, select_project);
-        if (!frmProject.brookprojrs.at_beginning()) {
-            read_session();
+        frmProject.row_read = false;
+        auto& rows = frmProject.brookprojrs;
+        rows = platform::RowSet();
+        rows.open(project_store.connection, select_project);
+        if (rows.at_beginning()) {
+            frmProject.row_read = true;
+            return;
         }
+        static_cast<void>(rows.row());
+        frmProject.row_read = true;
+        read_session();
     });
 }
 

@@ -28,10 +28,11 @@ struct ProjectDetails {
     platform::Field units;
     platform::Field mnuprojcancel;
     platform::RowSet brookprojrs;
-    bool adding = false;   // between `addnewproject` and a save
-    bool changed = false;  // from the first edit of the row
-    bool read = false;     // the fields show what the file holds: they may be stored over it
-    bool loaded = false;   // a hidden form stays loaded and keeps its texts
+    bool adding = false;    // between `addnewproject` and a save
+    bool changed = false;   // from the first edit of the row
+    bool read = false;      // the fields show what the file holds: they may be stored over it
+    bool row_read = false;  // the row of the file, or that there is none
+    bool loaded = false;    // a hidden form stays loaded and keeps its texts
     bool visible = false;
 };
 
@@ -79,7 +80,8 @@ void lock_existing_row();
 void unload_details_form();
 
 /// Reads the row of `PROJECT` into the session. A null in any column but `PRODUCT_NAME` and `MAJOR_RELEASE` is a
-/// failure: a plain box with its description, and the session keeps that value and all later ones.
+/// failure: a plain box with its description, and the session keeps that value and all later ones. A row that cannot be
+/// read is told too; `frmProject.row_read` is then false.
 void get_project_records();
 
 /// Puts the columns of the current row into the eight fields; empties them when there is no row.

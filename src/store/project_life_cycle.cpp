@@ -81,6 +81,13 @@ void create_project() {
     enable_for_open_project();
 }
 
+/// A project whose row could not be read has no units that its inlets could be solved in: nothing of it is open.
+void close_unread_project() {
+    if (!frmProject.row_read) {
+        project_store.connection = platform::Connection();
+    }
+}
+
 /// Only the misspelled date is upgraded behind this gate; the other passes it and stays as it is.
 void upgrade_old_file() {
     if (session.releaseDate == "AUGUST 2007" || session.releaseDate == "AUGUSTL 2007") {
@@ -116,6 +123,7 @@ void open_project() {
     platform::show_wait_pointer(true);
     open_database();
     get_project_records();
+    close_unread_project();
     upgrade_old_file();
     platform::show_wait_pointer(false);
     greet_project();

@@ -45,5 +45,24 @@ TEST_F(UnreadDetails, AreReadWhenTheFormOpensAgain) {
     EXPECT_EQ(frmProject.project_name.text, "Mill Road");
 }
 
+TEST_F(UnreadDetails, LeaveTheUnitsOfTheProjectAsTheyWere) {
+    make_project("a.gmk", {{"UNITS", "METRIC"}});
+    open_project("a.gmk");
+    EXPECT_EQ(session.projectUnits, "METRIC");
+    frmProject = {};
+    testing_support::run_sql(session.projectFilePath, "ALTER TABLE PROJECT RENAME TO GONE");
+    mnuupdateProj_Click();
+    EXPECT_EQ(session.projectUnits, "METRIC");
+}
+
+TEST_F(UnreadDetails, LeaveNothingOfTheProjectOpen) {
+    make_project("a.gmk");
+    testing_support::run_sql(folder.path("a.gmk"), "ALTER TABLE PROJECT RENAME TO GONE");
+    open_project("a.gmk");
+    EXPECT_EQ(user.boxes.front(), plain("no such table: PROJECT"));
+    EXPECT_FALSE(project_store.connection.is_open());
+    EXPECT_EQ(session.projectUnits, "");
+}
+
 }  // namespace
 }  // namespace gullymark::store
