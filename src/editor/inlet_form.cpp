@@ -114,7 +114,8 @@ void enter(FieldId field) {
 
 void edited(FieldId field, std::string_view text) {
     const std::size_t limit = screen_field(field).limit;
-    set_text(field, limit == 0 ? std::string(text) : platform::first_characters(text, limit));
+    const std::string line = platform::on_one_line(text);
+    set_text(field, limit == 0 ? line : platform::first_characters(line, limit));
 }
 
 void opened_list(FieldId field) {

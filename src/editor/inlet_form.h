@@ -48,7 +48,7 @@ char32_t filter_key(FieldId field, char32_t key, std::string_view whole, std::st
 std::string filter_text(FieldId field, std::string_view incoming, std::string_view whole,
                         std::string_view selected);
 
-/// The user changed a field's text to `text`. Characters beyond the field's limit are dropped.
+/// The user changed a field's text to `text`. It stands on one line, and characters beyond the field's limit are dropped.
 void edited(FieldId field, std::string_view text);
 
 /// The list of a field is about to drop down.

@@ -36,7 +36,8 @@ void show_renumber_dialog() {
 }
 
 void edit_new_number(std::string_view text) {
-    frminletmodify.newinletnumber.text = platform::first_characters(text, new_number_limit);
+    frminletmodify.newinletnumber.text =
+        platform::first_characters(platform::on_one_line(text), new_number_limit);
 }
 
 void cmdmodaccept_Click() {

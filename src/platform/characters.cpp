@@ -35,4 +35,18 @@ std::string last_characters(std::string_view text, std::size_t count) {
     return std::string(text.substr(all > count ? start_of(text, all - count) : 0));
 }
 
+std::string on_one_line(std::string_view text) {
+    constexpr std::string_view line_ends = "\r\n";
+    const std::size_t begin = std::min(text.find_first_not_of(line_ends), text.size());
+    const std::size_t end = text.find_last_not_of(line_ends) + 1;
+    std::string line;
+    for (std::size_t at = begin; at < end; ++at) {
+        if (text[at] == '\n' && text[at - 1] == '\r') {
+            continue;
+        }
+        line += line_ends.find(text[at]) == std::string_view::npos ? text[at] : ' ';
+    }
+    return line;
+}
+
 }  // namespace gullymark::platform

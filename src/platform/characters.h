@@ -17,4 +17,7 @@ namespace gullymark::platform {
 /// The last `count` characters; the whole text when it has no more.
 [[nodiscard]] std::string last_characters(std::string_view text, std::size_t count);
 
+/// The text for a field of one line: line ends around it fall away, those within become a blank each.
+[[nodiscard]] std::string on_one_line(std::string_view text);
+
 }  // namespace gullymark::platform

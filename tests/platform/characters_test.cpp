@@ -26,5 +26,16 @@ TEST(Characters, ATextWithNoMoreThanWantedComesBackWhole) {
     EXPECT_EQ(last_characters("", 1), "");
 }
 
+TEST(Characters, StandOnOneLineWithABlankForEachLineEndWithin) {
+    EXPECT_EQ(on_one_line("A1"), "A1");
+    EXPECT_EQ(on_one_line(" A1 "), " A1 ");
+    EXPECT_EQ(on_one_line("A1\r\n"), "A1");
+    EXPECT_EQ(on_one_line("\n\rA1\n\n"), "A1");
+    EXPECT_EQ(on_one_line("A1\r\nB1\nC1\rD1"), "A1 B1 C1 D1");
+    EXPECT_EQ(on_one_line("A1\n\nB1"), "A1  B1");
+    EXPECT_EQ(on_one_line("\r\n"), "");
+    EXPECT_EQ(on_one_line(""), "");
+}
+
 }  // namespace
 }  // namespace gullymark::platform
