@@ -231,6 +231,13 @@ bool fits(const File& journal, const JournalHeader& journal_header, std::string_
            number_at(header, change_counter_at) == number_at(*before, change_counter_at) + 1;
 }
 
+/// A journal's mark, or the start of one whose writing was cut off: it is stored last, over zeros, when nothing of the
+/// file was written yet. The engine finds nothing to undo in such a journal and removes it.
+bool is_mark_or_start_of_one(std::string_view bytes) {
+    const auto [differs, expected] = std::ranges::mismatch(bytes, journal_mark);
+    return std::all_of(differs, bytes.end(), [](char byte) { return byte == '\0'; });
+}
+
 /// True when the engine will roll back the journal: it puts the file's pages as they were before the save in their place.
 bool has_hot_journal(const std::string& path, const File& file, std::string_view header) {
     if (size_of_neighbour(path, journal_ending).value_or(0) == 0) {
@@ -245,7 +252,7 @@ bool has_hot_journal(const std::string& path, const File& file, std::string_view
     if (mark.empty() || mark.front() == '\0') {
         return false;
     }
-    if (!journal_mark.starts_with(mark)) {
+    if (!is_mark_or_start_of_one(mark)) {
         throw about_neighbour(path, journal_ending, "what stands beside the file is no journal of it");
     }
     if (!fits(journal, read_header(journal), header)) {

@@ -247,6 +247,19 @@ TEST_F(NeighboursTest, AnEmptyJournalAndAZeroedOneAreNoHindrance) {
     EXPECT_FALSE(std::filesystem::exists(journal));
 }
 
+TEST_F(NeighboursTest, AJournalWhoseMarkWasHalfStoredIsNoHindrance) {
+    const std::string mark = journal_start;
+    const std::string behind =
+        four_bytes(0) + four_bytes(7) + four_bytes(3) + four_bytes(512) + four_bytes(4096);
+    for (std::size_t stored = 1; stored < mark.size(); ++stored) {
+        const std::string torn = mark.substr(0, stored) + std::string(mark.size() - stored, '\0') + behind;
+        write_file(journal, torn + std::string(512 - torn.size(), '\0'));
+        EXPECT_EQ(open_failure(), "(no failure)") << stored;
+        EXPECT_FALSE(std::filesystem::exists(journal)) << stored;
+        EXPECT_EQ(run_sql(path, "SELECT count(*) FROM INLET WHERE STATION = 'whole'"), "2") << stored;
+    }
+}
+
 TEST_F(NeighboursTest, AJournalThatTellsOfAnEndlessFileIsRefused) {
     const std::string header = journal_start + four_bytes(1) + four_bytes(0) + four_bytes(0xffffffff) +
                                four_bytes(512) + four_bytes(65536);
