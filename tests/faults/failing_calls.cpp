@@ -86,26 +86,6 @@ int count_calls(const Site& site, const Rehearsal& rehearsal, const Target& targ
     }));
 }
 
-/// A deed, and what a fault in it can hit.
-struct Prospect {
-    const Deed* deed;
-    int number;
-    int times;
-    Rehearsal rehearsal;
-};
-
-std::vector<Prospect> prospects_of(const Site& site, const std::vector<Deed>& deeds) {
-    std::vector<Prospect> prospects;
-    for (const auto& deed : deeds) {
-        for (const int times : {1, 2}) {
-            for (const int number : {0, 5}) {
-                prospects.push_back({&deed, number, times, rehearse(site, deed, number, times)});
-            }
-        }
-    }
-    return prospects;
-}
-
 /// What may be found after a fault in the deed, whatever was told of it.
 std::string complaint_after(const Site& site, const std::vector<State>& states, bool may_leave_files) {
     const State found = state_of(site);
@@ -123,19 +103,19 @@ std::string complaint_after(const Site& site, const std::vector<State>& states, 
     return complaint_about_opening(site, found, states.back());
 }
 
-std::string try_fault(const Site& site, const Prospect& prospect, Fault& fault, std::mt19937& random) {
-    const auto& states = prospect.rehearsal.states;
-    prepare(site, *prospect.deed);
+std::string try_fault(const Site& site, Prospect& prospect, Fault& fault, std::mt19937& random) {
+    const auto& states = prospect.rehearsal().states;
+    prepare(site, prospect.deed);
     {
         Designer designer(site.program());
-        if (!prospect.deed->from_the_start) {
+        if (!prospect.deed.from_the_start) {
             designer.open(site.file());
         }
         {
             const Watching watching(site.path(""),
                                     [&](const SystemCall& call) { return fault.fate(site, call, random); });
             for (int time = 0; time < prospect.times; ++time) {
-                prospect.deed->act(designer, site, prospect.number);
+                prospect.deed.act(designer, site, prospect.number);
             }
         }
         if (auto complaint = complaint_about_screen(states); !complaint.empty()) {
@@ -150,16 +130,16 @@ std::string try_fault(const Site& site, const Prospect& prospect, Fault& fault, 
 Outcome fail_calls_of(const Site& site, CallKind kind, int times, int first_seed) {
     Outcome outcome{.name = name_of(kind)};
     const auto deeds = deeds_of_all_kinds(site);
-    const auto prospects = prospects_of(site, deeds);
+    auto prospects = prospects_of(site, deeds, {0, 5}, {1, 2});
     try_apart(site, times, outcome, [&](int trial, Outcome& told) {
         std::mt19937 random(static_cast<unsigned>(first_seed + trial));
         const Target* target = nullptr;
-        const Prospect* prospect = nullptr;
+        Prospect* prospect = nullptr;
         int calls = 0;
         while (calls == 0) {
             target = &targets[static_cast<std::size_t>(pick(random, targets.size()))];
             prospect = &prospects[static_cast<std::size_t>(pick(random, prospects.size()))];
-            calls = target->kind == kind ? count_calls(site, prospect->rehearsal, *target) : 0;
+            calls = target->kind == kind ? count_calls(site, prospect->rehearsal(), *target) : 0;
         }
         const auto& errors = reasons.at(kind);
         Fault fault{.target = *target,
@@ -170,7 +150,7 @@ Outcome fail_calls_of(const Site& site, CallKind kind, int times, int first_seed
         told.count(target->name);
         const auto complaint = try_fault(site, *prospect, fault, random);
         if (!complaint.empty()) {
-            told.fail("seed " + std::to_string(first_seed + trial) + ", " + prospect->deed->name + " " +
+            told.fail("seed " + std::to_string(first_seed + trial) + ", " + prospect->deed.name + " " +
                       std::to_string(prospect->number) + " done " + std::to_string(prospect->times) +
                       " times, call " + std::to_string(fault.first + 1) + " of " + std::to_string(calls) +
                       " " + target->name + (fault.extent == Extent::one ? "" : " and more") + ": " +

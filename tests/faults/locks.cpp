@@ -109,23 +109,6 @@ class Lock {
     bool was_held_ = false;
 };
 
-struct Command {
-    const Deed* deed;
-    int number;
-    int times;
-    Rehearsal rehearsal;
-};
-
-std::vector<Command> commands_of(const Site& site, const std::vector<Deed>& deeds) {
-    std::vector<Command> commands;
-    for (const auto& deed : deeds) {
-        for (const int times : {1, 2}) {
-            commands.push_back({&deed, 3, times, rehearse(site, deed, 3, times)});
-        }
-    }
-    return commands;
-}
-
 /// A report shows what it would without the lock, unless a failure was told, or the form that is printed is empty.
 std::string complaint_about_sheet(const Designer& designer, const Rehearsal& rehearsal) {
     if (designer.sheet == rehearsal.sheet || designer.sheet.empty() || designer.told_of_failure()) {
@@ -134,12 +117,12 @@ std::string complaint_about_sheet(const Designer& designer, const Rehearsal& reh
     return "the report is not complete, and nothing was told";
 }
 
-std::string complaint_in_lock(const Site& site, const Command& command, Lock& lock, std::mt19937& random,
+std::string complaint_in_lock(const Site& site, Prospect& command, Lock& lock, std::mt19937& random,
                               Outcome& told) {
-    const auto& states = command.rehearsal.states;
+    const auto& states = command.rehearsal().states;
     const StatementsSeen seen(nullptr, [&] { lock.step(); });
     Designer designer(site.program());
-    if (!command.deed->from_the_start) {
+    if (!command.deed.from_the_start) {
         designer.open(site.file());
     }
     designer.boxes.clear();
@@ -152,7 +135,7 @@ std::string complaint_in_lock(const Site& site, const Command& command, Lock& lo
     });
     lock.begin();
     for (int time = 0; time < command.times; ++time) {
-        command.deed->act(designer, site, command.number);
+        command.deed.act(designer, site, command.number);
     }
     told.count("told of it", designer.told_of_failure() ? 1 : 0);
     auto complaint = complaint_about_screen(states);  // while it is held, if it still is
@@ -161,7 +144,7 @@ std::string complaint_in_lock(const Site& site, const Command& command, Lock& lo
         complaint = complaint_about_screen(states);
     }
     if (complaint.empty()) {
-        complaint = complaint_about_sheet(designer, command.rehearsal);
+        complaint = complaint_about_sheet(designer, command.rehearsal());
     }
     return complaint.empty() ? "" : complaint + designer.what_was_told();
 }
@@ -172,17 +155,17 @@ Outcome lock_during_commands(const Site& site, int times, int first_seed) {
     Outcome outcome{.name = "locked by another program"};
     auto deeds = deeds_of_all_kinds(site);
     std::ranges::copy(deeds_that_store_nothing(site), std::back_inserter(deeds));
-    const auto commands = commands_of(site, deeds);
+    auto commands = prospects_of(site, deeds, {3}, {1, 2});
     std::optional<OtherProgram> other;
     try_apart(site, times, outcome, [&](int trial, Outcome& told) {
         if (!other) {
             other.emplace(site);
         }
         std::mt19937 random(static_cast<unsigned>(first_seed + trial));
-        const auto& command = commands[static_cast<std::size_t>(pick(random, commands.size()))];
-        const auto& states = command.rehearsal.states;
-        prepare(site, *command.deed);
-        Lock lock(*other, random, command.rehearsal.statements);
+        auto& command = commands[static_cast<std::size_t>(pick(random, commands.size()))];
+        const auto& states = command.rehearsal().states;
+        prepare(site, command.deed);
+        Lock lock(*other, random, command.rehearsal().statements);
         auto complaint = complaint_in_lock(site, command, lock, random, told);
         told.count("trials");
         told.count("locked", lock.was_held() ? 1 : 0);
@@ -194,7 +177,7 @@ Outcome lock_during_commands(const Site& site, int times, int first_seed) {
             complaint = complaint_about_opening(site, found, states.back());
         }
         if (!complaint.empty()) {
-            told.fail("seed " + std::to_string(first_seed + trial) + ", " + command.deed->name + ": " +
+            told.fail("seed " + std::to_string(first_seed + trial) + ", " + command.deed.name + ": " +
                       complaint);
         }
     });

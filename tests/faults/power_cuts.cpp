@@ -30,14 +30,11 @@ std::string complaint_after_cut(const Site& site, const Rehearsal& rehearsal, st
 Outcome cut_power(const Site& site, int times, int first_seed) {
     Outcome outcome{.name = "power cut"};
     const auto deeds = deeds_of_all_kinds(site);
-    std::vector<Rehearsal> rehearsals;
-    for (const auto& deed : deeds) {
-        rehearsals.push_back(rehearse(site, deed, 0, 1));
-    }
+    auto prospects = prospects_of(site, deeds, {0}, {1});
     try_apart(site, times, outcome, [&](int trial, Outcome& told) {
         std::mt19937 random(static_cast<unsigned>(first_seed + trial));
         const auto which = static_cast<std::size_t>(pick(random, deeds.size()));
-        const Rehearsal& rehearsal = rehearsals[which];
+        const Rehearsal& rehearsal = prospects[which].rehearsal();
         const auto after = static_cast<std::size_t>(pick(random, rehearsal.disk.changes() + 1));
         told.count("trials");
         told.count("during " + deeds[which].name);

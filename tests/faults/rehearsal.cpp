@@ -63,6 +63,19 @@ Rehearsal rehearse(const Site& site, const Deed& deed, int number, int times) {
     return rehearsal;
 }
 
+std::vector<Prospect> prospects_of(const Site& site, const std::vector<Deed>& deeds,
+                                   const std::vector<int>& numbers, const std::vector<int>& times) {
+    std::vector<Prospect> prospects;
+    for (const auto& deed : deeds) {
+        for (const int number : numbers) {
+            for (const int often : times) {
+                prospects.emplace_back(site, deed, number, often);
+            }
+        }
+    }
+    return prospects;
+}
+
 void leave_unfinished(const Site& site, const Deed& deed, const std::string& file,
                       const std::string& journal) {
     const Rehearsal rehearsal = rehearse(site, deed, 0, 1);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,6 +29,32 @@ struct Rehearsal {
 
 /// Does the deed `times` times over.
 Rehearsal rehearse(const Site& site, const Deed& deed, int number, int times);
+
+/// A deed to be tried, so often; rehearsed when that is asked for first.
+class Prospect {
+  public:
+    Prospect(const Site& site, const Deed& what, int which, int often)
+        : deed(what), number(which), times(often), site_(site) {}
+
+    const Deed& deed;
+    int number;
+    int times;
+
+    const Rehearsal& rehearsal() {
+        if (!rehearsal_) {
+            rehearsal_ = rehearse(site_, deed, number, times);
+        }
+        return *rehearsal_;
+    }
+
+  private:
+    const Site& site_;
+    std::optional<Rehearsal> rehearsal_;
+};
+
+/// Each deed with each of the numbers, done once and tried again.
+std::vector<Prospect> prospects_of(const Site& site, const std::vector<Deed>& deeds,
+                                   const std::vector<int>& numbers, const std::vector<int>& times);
 
 /// Leaves the deed's file and the journal beside it under these paths as they are when power fails at the end of the deed:
 /// the next one to open the file takes back what is in it.
