@@ -7,8 +7,9 @@ namespace gullymark::shell {
 namespace {
 
 /// The light of one channel, of the sRGB colour space.
-double linear(double channel) {
-    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+double linear(float channel) {
+    const auto part = static_cast<double>(channel);
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
 }
 
 double luminance(const QColor& colour) {
@@ -32,8 +33,8 @@ double contrast(const QColor& one, const QColor& other) {
 }
 
 QColor between(const QColor& from, const QColor& to, double part) {
-    const auto mix = [part](double one, double other) {
-        return static_cast<float>(one + (other - one) * part);
+    const auto mix = [part](float one, float other) {
+        return static_cast<float>(static_cast<double>(one) + static_cast<double>(other - one) * part);
     };
     return QColor::fromRgbF(mix(from.redF(), to.redF()), mix(from.greenF(), to.greenF()),
                             mix(from.blueF(), to.blueF()));

@@ -83,7 +83,7 @@ void set_disabled_texts(QPalette& palette) {
 void set_hints(QPalette& palette, QPalette::ColorGroup group) {
     const QColor ground = palette.color(group, QPalette::Base);
     const QColor hint = palette.color(group, QPalette::PlaceholderText);
-    const QColor seen = between(ground, QColor(hint.rgb()), hint.alphaF());
+    const QColor seen = between(ground, QColor(hint.rgb()), static_cast<double>(hint.alphaF()));
     put(palette, group, QPalette::PlaceholderText, readable(seen, grounds_of(palette, group), text_contrast));
 }
 
