@@ -17,7 +17,7 @@ using namespace editor;  // NOLINT(google-build-using-namespace): a designer is 
 
 using enum FieldId;
 
-constexpr int pages = 4;
+constexpr int form_pages = 4;
 
 void type(FieldId field, const std::string& text) {
     leave_focused_field();
@@ -38,7 +38,7 @@ void solve_and_save() {
 void look_at_row(int row, const std::function<void()>& look) {
     pick_grid_row(row);
     look ? look() : void();
-    for (int page = pages - 1; page >= 0; --page) {
+    for (int page = form_pages - 1; page >= 0; --page) {
         tab_clicked(page);
     }
 }
@@ -50,7 +50,7 @@ void look_at_record(int row, const std::function<void()>& look) {
     inletflex_EnterCell(row);
     inletflex_DblClick();
     look ? look() : void();
-    for (int page = pages - 1; page >= 0; --page) {
+    for (int page = form_pages - 1; page >= 0; --page) {
         view_tab_clicked(page);
     }
     unload_inlet_view();
