@@ -26,7 +26,7 @@ struct UnreadUsage : EditorTest {
             return show_box(box);
         };
     }
-    ~UnreadUsage() { sqlite3_close(other); }
+    ~UnreadUsage() override { sqlite3_close(other); }
 
     void lock() const { sqlite3_exec(other, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr); }
     void let_go() const { sqlite3_exec(other, "ROLLBACK", nullptr, nullptr, nullptr); }

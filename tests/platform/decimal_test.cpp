@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -20,9 +21,9 @@ std::string shown(const Decimal& decimal) {
 
 /// The same by the C library, which has all digits of the binary value.
 std::string shown_by_the_library(double number) {
-    char text[40];
-    std::snprintf(text, sizeof text, "%.14e", number);
-    const std::string all(text);
+    std::array<char, 40> text{};
+    std::snprintf(text.data(), text.size(), "%.14e", number);
+    const std::string all(text.data());
     const auto e = all.find('e');
     std::string digits;
     for (const char c : all.substr(0, e)) {
@@ -58,14 +59,15 @@ TEST(Decimal, AgreesWithTheLibraryOnRandomNumbersOfAllSizes) {
 }
 
 TEST(Decimal, RoundsHalvesAwayFromZero) {
-    struct {
+    struct Rounding {
         const char* text;
         int decimals;
         const char* rounded;
-    } const cases[] = {{"2.5", 0, "0.3e1"},   {"0.5", 0, "0.1e1"},      {"0.49", 0, "0.0e0"},
-                       {"0.05", 0, "0.0e-1"}, {"9.995", 2, "0.1000e2"}, {"-1.005", 2, "-0.101e1"},
-                       {"12.5", 3, "0.125e2"}};
-    for (const auto& each : cases) {
+    };
+    for (const auto& each :
+         {Rounding{"2.5", 0, "0.3e1"}, Rounding{"0.5", 0, "0.1e1"}, Rounding{"0.49", 0, "0.0e0"},
+          Rounding{"0.05", 0, "0.0e-1"}, Rounding{"9.995", 2, "0.1000e2"}, Rounding{"-1.005", 2, "-0.101e1"},
+          Rounding{"12.5", 3, "0.125e2"}}) {
         Decimal decimal;
         ASSERT_TRUE(read_plain_digits(each.text, decimal));
         round_half_away(decimal, each.decimals);
