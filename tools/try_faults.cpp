@@ -65,9 +65,10 @@ bool fill(const Site& site, int steps) {
 bool fail_each(const Site& site) {
     bool good = true;
     const auto deeds = deeds_of_all_kinds(site);
+    auto prospects = prospects_of(site, deeds, {0}, {1});
     for (const auto failure : {CallFailure::full, CallFailure::broken, CallFailure::killed}) {
-        for (const auto& deed : deeds) {
-            good = fail_each_call(site, deed, failure).tell() && good;
+        for (auto& prospect : prospects) {
+            good = fail_each_call(site, prospect, failure).tell() && good;
         }
     }
     return good;

@@ -73,15 +73,15 @@ const char* name_of(CallFailure failure) {
 
 }  // namespace
 
-Outcome fail_each_call(const Site& site, const Deed& deed, CallFailure failure) {
-    Outcome outcome{.name = name_of(failure) + deed.name};
-    const Rehearsal rehearsal = rehearse(site, deed, 0, 1);
+Outcome fail_each_call(const Site& site, Prospect& prospect, CallFailure failure) {
+    Outcome outcome{.name = name_of(failure) + prospect.deed.name};
+    const Rehearsal& rehearsal = prospect.rehearsal();
     const auto calls =
         std::ranges::count_if(rehearsal.calls, [](const CallMade& call) { return changes_files(call.kind); });
     const auto round = [](int number) { return "call " + std::to_string(number + 1) + ": "; };
     const auto fail_call = [&](int call, Outcome& told) {
         told.count("runs");
-        act_on_failing_disk(site, deed, failure, call);
+        act_on_failing_disk(site, prospect.deed, failure, call);
         judge_site(site, rehearsal, told, round(call));
     };
     const auto kill_in_change = [&](int change, Outcome& told) {

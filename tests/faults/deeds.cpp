@@ -8,6 +8,8 @@
 namespace gullymark::faults {
 namespace {
 
+constexpr int few_inlets = 8;
+
 std::string label(const char* word, int number) {
     return word + std::to_string(number);
 }
@@ -56,7 +58,7 @@ void view(Designer& designer, const Site& /*site*/, int number) {
 }
 /// Nobody else names the last inlet.
 void name_previous(Designer& designer, const Site& /*site*/, int /*number*/) {
-    designer.name_previous(1, label("I-0000", 20));
+    designer.name_previous(1, label("I-00000", few_inlets));
 }
 void name_one_that_is_named(Designer& designer, const Site& /*site*/, int number) {
     designer.name_previous(1, label("I-00000", 2 + number));
@@ -73,10 +75,10 @@ void remove_one_that_feeds(Designer& designer, const Site& /*site*/, int number)
 
 }  // namespace
 
-std::vector<Deed> deeds_in_a_project(const Site& site) {
+std::vector<Deed> deeds_in_a_project(const Site& site, int inlets) {
     const std::string road = site.path("road.gmk");
     const std::string old_road = site.path("old_road.gmk");
-    make_project(site.program(), road, 20);
+    make_project(site.program(), road, inlets);
     std::filesystem::copy_file(GULLYMARK_TEST_DIR "/files/augustl_2007.gmk", old_road,
                                std::filesystem::copy_options::overwrite_existing);
     return {
@@ -86,7 +88,7 @@ std::vector<Deed> deeds_in_a_project(const Site& site) {
 }
 
 std::vector<Deed> deeds_of_all_kinds(const Site& site) {
-    auto deeds = deeds_in_a_project(site);
+    auto deeds = deeds_in_a_project(site, few_inlets);
     const std::string road = deeds.front().old_file;
     deeds.push_back({"open and save", road, open_and_save, true});
     deeds.push_back({"create over a project", road, create, true});

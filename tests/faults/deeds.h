@@ -25,11 +25,11 @@ std::vector<Deed> deeds_that_store_nothing(const Site& site);
 /// The folder of the project holds what lies there before the deed.
 void prepare(const Site& site, const Deed& deed);
 
-/// Save, copy, delete, renumber, details, upgrade. Makes the files that they begin with.
-std::vector<Deed> deeds_in_a_project(const Site& site);
+/// Save, copy, delete, renumber, details, upgrade. Makes the files that they begin with, the project with so many inlets.
+std::vector<Deed> deeds_in_a_project(const Site& site, int inlets = 20);
 
-/// Those, and: open and save, a file with a save to roll back too, create over a project, over such a file and on a
-/// new name, previous inlet, both reports.
+/// Those in a project of few inlets, all of which are looked at after each trial, and: open and save, a file with a save
+/// to roll back too, create over a project, over such a file and on a new name, previous inlet, both reports.
 std::vector<Deed> deeds_of_all_kinds(const Site& site);
 
 /// What one sees of a file after each statement while `count` deeds run undisturbed, from opening it on.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "faults/deeds.h"
+#include "faults/rehearsal.h"
 #include "faults/site.h"
 #include "faults/system_calls.h"
 
@@ -28,7 +29,7 @@ enum class CallFailure {
 
 /// Lets each of those calls of the deed fail in its turn, and all after it. The files are always as one of the deed's
 /// statements left them.
-Outcome fail_each_call(const Site& site, const Deed& deed, CallFailure failure);
+Outcome fail_each_call(const Site& site, Prospect& prospect, CallFailure failure);
 
 /// Lets one call of this kind fail in a deed of any kind, or more of them, `times` times over. The files are always as one
 /// of the deed's statements left them, and nothing else is shown.
