@@ -13,8 +13,8 @@
 #include "editor/life_cycle.h"
 #include "many_inlets.h"
 #include "platform/files.h"
+#include "shell/binding/turn.h"
 #include "shell/start.h"
-#include "shell/turn.h"
 
 namespace {
 

@@ -15,7 +15,7 @@
 #include <QUrl>
 
 #include "platform/outside.h"
-#include "shell/turn.h"
+#include "shell/binding/turn.h"
 
 namespace gullymark::shell {
 namespace {

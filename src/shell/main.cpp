@@ -3,8 +3,8 @@
 #include <QApplication>
 
 #include "platform/files.h"
+#include "shell/binding/turn.h"
 #include "shell/start.h"
-#include "shell/turn.h"
 #include "store/start.h"
 
 namespace shell = gullymark::shell;

@@ -22,6 +22,10 @@ forbid editor    "reports/|shell/|sqlite|com/sun/star|$qt"
 forbid reports   "editor/|shell/|sqlite|com/sun/star|$qt"
 forbid shell     "sqlite|com/sun/star"
 
+# The rooms of the shell: the windows stand on what serves every one of them, and know nothing of the start.
+forbid shell/binding "shell/(windows/|[a-z_]+\.h)"
+forbid shell/windows "shell/[a-z_]+\.h"
+
 # The link line says the same.
 hits=$(grep -lE 'Qt6::' src/*/CMakeLists.txt | grep -v '^src/shell/'; grep -lE 'SQLite|LibreOffice' src/*/CMakeLists.txt | grep -v '^src/platform/')
 if [ -n "$hits" ]; then

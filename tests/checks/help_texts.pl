@@ -69,7 +69,7 @@ for my $path (split /\n/, `find src/engine src/store src/editor src/reports -nam
         expect_in_help($caption, $path);
     }
 }
-for my $path (glob('src/shell/*_view.ui')) {
+for my $path (glob('src/shell/windows/*_view.ui')) {
     my $source = read_text($path);
     while ($source =~ /<string>(?:&amp;)?([A-Z][A-Z \/]{3,})<\/string>/g) {
         expect_in_help($1, $path) unless $path =~ /renumber/;

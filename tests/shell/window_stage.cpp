@@ -7,7 +7,7 @@
 #include <QApplication>
 
 #include "editor/renumber_dialog.h"
-#include "shell/turn.h"
+#include "shell/binding/turn.h"
 #include "window_sights.h"
 #include "window_user.h"
 

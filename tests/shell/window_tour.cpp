@@ -6,8 +6,8 @@
 
 #include "catalogue/standards.h"
 #include "new_road.h"
-#include "shell/splash.h"
-#include "shell/standards_window.h"
+#include "shell/windows/splash.h"
+#include "shell/windows/standards_window.h"
 
 namespace gullymark::testing_support {
 namespace {

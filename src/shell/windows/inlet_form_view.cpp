@@ -1,0 +1,51 @@
+#include "shell/windows/inlet_form_view.h"
+
+#include <utility>
+
+#include "editor/inlet_form.h"
+#include "engine/unit_constants.h"
+#include "shell/binding/copy_texts.h"
+#include "shell/binding/small_screen.h"
+#include "shell/binding/turn.h"
+#include "shell/windows/inlet_items.h"
+#include "ui_inlet_form_view.h"
+
+namespace gullymark::shell {
+using editor::frminletMDIC;
+
+InletFormView::InletFormView(QWidget* parent) : QWidget(parent), ui_(new Ui::frminletMDIC) {
+    ui_->setupUi(this);
+    scroll_pages(*ui_->SSTab1);
+    order_tabs(*this);
+}
+
+InletFormView::~InletFormView() = default;
+
+void InletFormView::bind() {
+    add_view([this] { carry_out_wishes(); });  // before the binder, which then moves the focus
+    binder_ = new Binder(*this, design_form_items());
+    add_view([this] { follow_units(); });
+    add_copying(*this, frminletMDIC.screen);
+}
+
+/// The tips tell units.
+void InletFormView::follow_units() {
+    if (tips_in_ != engine::UnitSystem) {
+        tips_in_ = engine::UnitSystem;
+        put_tool_tips(*this);
+    }
+}
+
+void InletFormView::carry_out_wishes() {
+    if (std::exchange(begun_, frminletMDIC.begun) != frminletMDIC.begun) {
+        binder_->forget_visits();
+    }
+    if (const auto wanted = std::exchange(frminletMDIC.wanted_focus, std::nullopt)) {
+        binder_->focus(std::string(editor::field_name(*wanted)));
+    }
+    if (const auto wanted = std::exchange(frminletMDIC.wanted_selection, std::nullopt)) {
+        binder_->select_all(std::string(editor::field_name(*wanted)));
+    }
+}
+
+}  // namespace gullymark::shell

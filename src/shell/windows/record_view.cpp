@@ -1,0 +1,51 @@
+#include "shell/windows/record_view.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+
+#include "editor/inlet_view.h"
+#include "shell/binding/copy_texts.h"
+#include "shell/binding/small_screen.h"
+#include "shell/binding/turn.h"
+#include "shell/windows/inlet_items.h"
+#include "ui_inlet_form_view.h"
+
+namespace gullymark::shell {
+
+using editor::frmviewinlet;
+
+RecordView::RecordView() : form_(new Ui::frminletMDIC) {
+    form_->setupUi(this);
+    scroll_pages(*form_->SSTab1);
+    order_tabs(*this);
+    setObjectName("frmviewinlet");
+    resize(sizeHint());
+    new Binder(*this, record_view_items());  // owned by the window
+    add_copying(*this, frmviewinlet.screen);
+    add_view([this] { show_state(); });
+}
+
+RecordView::~RecordView() = default;
+
+void RecordView::show_state() {
+    setWindowTitle(QString::fromStdString(frmviewinlet.caption));
+    if (isVisible() != frmviewinlet.visible) {
+        setVisible(frmviewinlet.visible);
+    }
+    come_to_front(*this, frmviewinlet.shows, shows_shown_);
+}
+
+void RecordView::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    handle(editor::unload_inlet_view);
+}
+
+void RecordView::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Cancel) || event->matches(QKeySequence::Close)) {
+        close();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+}  // namespace gullymark::shell

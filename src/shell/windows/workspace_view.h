@@ -1,0 +1,38 @@
+#pragma once
+
+#include <array>
+#include <memory>
+
+#include <QAction>
+#include <QMainWindow>
+
+#include "shell/windows/status_panels.h"
+
+namespace Ui {
+class MDIInlet;
+}
+
+namespace gullymark::shell {
+
+/// The inlet workspace `MDIInlet` on the screen: the grid on the left, the design form on the right.
+class WorkspaceView : public QMainWindow {
+  public:
+    WorkspaceView();
+    ~WorkspaceView() override;
+
+    void move_focus_on();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void build_toolbar();
+    void show_state();
+
+    std::unique_ptr<Ui::MDIInlet> ui_;
+    std::unique_ptr<StatusPanels> screenmode_;
+    std::unique_ptr<StatusPanels> status_;
+    std::array<QAction*, 17> buttons_{};  // by index from 1
+};
+
+}  // namespace gullymark::shell
