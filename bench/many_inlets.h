@@ -9,6 +9,7 @@
 #include "editor/workspace.h"
 #include "platform/outside.h"
 #include "store/main_window.h"
+#include "store/project_life_cycle.h"
 #include "store/windows.h"
 #include "tools/project_maker.h"
 

@@ -15,6 +15,7 @@
 #include "platform/outside.h"
 #include "store/main_window.h"
 #include "store/project_details.h"
+#include "store/project_life_cycle.h"
 #include "store/windows.h"
 #include "target.h"
 

@@ -1,7 +1,8 @@
+#include "catalogue/pick.h"
+
 #include <algorithm>
 #include <array>
 
-#include "catalogue/standards.h"
 #include "engine/step.h"
 #include "engine/words.h"
 #include "platform/number_text.h"

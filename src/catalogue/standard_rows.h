@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "catalogue/standards.h"
+#include "catalogue/table.h"
 
 /// The rows of the eight tables as printed: one line for each standard and clogging, its fields under their headings.
 /// The names keep their odd blanks and brackets, such as the one that "P1/P2/P3(No Curb" lacks.

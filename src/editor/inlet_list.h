@@ -8,7 +8,7 @@
 #include "editor/data_control.h"
 #include "platform/menu.h"
 #include "platform/screen.h"
-#include "store/main_window.h"
+#include "store/help.h"
 
 /// The listing window `frminletflex`: all inlets, nothing to change. Row 0 of its grid is the heading.
 namespace gullymark::editor {

@@ -7,6 +7,7 @@
 #include "editor/life_cycle.h"
 #include "editor/windows.h"
 #include "platform/outside.h"
+#include "store/main_window.h"
 #include "store/project_session.h"
 
 namespace gullymark::editor {

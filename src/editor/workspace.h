@@ -7,7 +7,7 @@
 #include "editor/data_control.h"
 #include "platform/menu.h"
 #include "platform/screen.h"
-#include "store/main_window.h"
+#include "store/help.h"
 
 /// The inlet workspace `MDIInlet` without a toolkit: it frames the design form and the grid, holds the screen mode,
 /// and every command that changes a row goes through here.

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "platform/failure.h"
 #include "platform/number_text.h"
 #include "platform/outside.h"
 
@@ -53,7 +54,7 @@ double Place::number(engine::Column column) const {
 void write_cells(platform::Sheet& sheet, int base, std::span<const CellStep> steps,
                  const engine::InletRecord& inlet) {
     for (const CellStep& step : steps) {
-        attempt([&] {
+        platform::ignore_failure([&] {
             const Place place{sheet, {base + step.cell.row, step.cell.column}, inlet};
             std::visit(Writer{place, base}, step.source);
         });

@@ -88,14 +88,4 @@ struct Place {
 void write_cells(platform::Sheet& sheet, int base, std::span<const CellStep> steps,
                  const engine::InletRecord& inlet);
 
-/// Carries out one step and passes over its failure.
-template <typename Step>
-void attempt(Step&& step) {
-    try {
-        std::forward<Step>(step)();
-    } catch (const platform::Failure&) {
-        return;  // a report goes on with what it has
-    }
-}
-
 }  // namespace gullymark::reports

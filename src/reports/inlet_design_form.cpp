@@ -5,6 +5,7 @@
 #include "engine/inlet_row.h"
 #include "engine/words.h"
 #include "platform/database.h"
+#include "platform/failure.h"
 #include "platform/number_text.h"
 #include "platform/outside.h"
 #include "reports/cell_steps.h"
@@ -79,7 +80,7 @@ void write_gutter_drop(const Place& place) {
 /// The larger spread; that at the opening too where one of them is no number, as on grade.
 void write_larger_spread(const Place& place) {
     engine::Column larger = OPENSPREAD;
-    attempt([&] {
+    platform::ignore_failure([&] {
         if (place.number(GUTTERSPREAD) >= place.number(OPENSPREAD)) {
             larger = GUTTERSPREAD;
         }
@@ -224,7 +225,7 @@ std::vector<engine::InletRecord> read_inlets(platform::RowSet& rows) {
 
 void fill(platform::Sheet& sheet, const std::vector<engine::InletRecord>& inlets) {
     write_cells(sheet, 0, header, {});
-    attempt([&] {
+    platform::ignore_failure([&] {
         int row = first_row;
         for (const auto& inlet : inlets) {
             row += write_inlet(sheet, row, inlet);
@@ -240,16 +241,16 @@ void InletDesignForm(std::size_t inlet_count) {
         return;
     }
     platform::RowSet rows;
-    attempt([&] { open_inlets(rows); });
+    platform::ignore_failure([&] { open_inlets(rows); });
     const auto target = choose_target(form_file);
     if (!target) {
         return;
     }
-    attempt([&] {
+    platform::ignore_failure([&] {
         const auto inlets = read_inlets(rows);
         fill_copy_of_template(form_file, *target, [&](platform::Sheet& sheet) { fill(sheet, inlets); });
     });
-    attempt([&] { rows.close(); });
+    platform::ignore_failure([&] { rows.close(); });
 }
 
 }  // namespace gullymark::reports

@@ -241,7 +241,7 @@ constexpr auto groups_by_kind = std::to_array<Group>({
 void fill(platform::Sheet& sheet, const engine::InletRecord& inlet) {
     write_cells(sheet, 0, project_and_inlet, inlet);
     Kind kind;
-    attempt([&] { kind = kind_in(sheet); });
+    platform::ignore_failure([&] { kind = kind_in(sheet); });
     if (kind.sump) {
         write_cells(sheet, 0, right_side, inlet);
     }
@@ -264,7 +264,7 @@ void inlet_report(std::size_t inlet_count, const engine::InletRecord& current_in
     if (!target) {
         return;
     }
-    attempt([] { store::session.workingDirectory = platform::current_folder(); });
+    platform::ignore_failure([] { store::session.workingDirectory = platform::current_folder(); });
     fill_copy_of_template(report_file, *target, [&](platform::Sheet& sheet) { fill(sheet, current_inlet); });
 }
 

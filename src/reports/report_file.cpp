@@ -1,5 +1,6 @@
 #include "reports/report_file.h"
 
+#include "platform/failure.h"
 #include "platform/file_dialog.h"
 #include "platform/files.h"
 #include "platform/outside.h"
@@ -17,7 +18,8 @@ std::optional<std::string> choose_target(const ReportFile& report) {
     printDlg.filter = report.filter;
     printDlg.initial_folder = store::dialog_start_folder();
     printDlg.title = report.title;
-    attempt([] { printDlg.show_save(); });  // a cancel leaves the name empty, also where it is an error
+    // A cancel leaves the name empty, also where it is an error.
+    platform::ignore_failure([] { printDlg.show_save(); });
     std::string target = printDlg.file_name;
     if (target.empty() || target == "*.xls") {
         platform::tell("No File Name selected!", BoxKind::warning);
@@ -37,13 +39,13 @@ void fill_copy_of_template(const ReportFile& report, const std::string& target,
         .template_path = platform::join_path(platform::program_folder(), report.template_name),
         .frozen_rows = report.frozen_rows,
         .frozen_columns = report.frozen_columns};
-    attempt([&] {
+    platform::ignore_failure([&] {
         platform::refuse_project(target);
         platform::copy_file(file.template_path, target);
         file.path = target;
     });
     platform::show_wait_pointer(true);
-    attempt([&] {
+    platform::ignore_failure([&] {
         platform::Sheet sheet = platform::open_sheet(file);
         fill(sheet);
         platform::hand_over(file, sheet);

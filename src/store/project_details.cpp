@@ -13,6 +13,7 @@
 #include "store/project_session.h"
 #include "store/project_store.h"
 #include "store/windows.h"
+#include "store/workspace_entry.h"
 
 namespace gullymark::store {
 namespace {
@@ -21,6 +22,7 @@ using platform::BoxKind;
 using platform::Colour;
 using platform::Failure;
 using platform::Field;
+using platform::ignore_failure;
 
 /// Runs an operation of the form; a failure is told and ends it.
 template <class Operation>
@@ -29,15 +31,6 @@ void tell_failure(Operation operation) {
         operation();
     } catch (const Failure& failure) {
         platform::tell(failure.what());
-    }
-}
-
-template <class Step>
-void ignore_failure(Step step) {
-    try {
-        step();
-    } catch (const Failure&) {
-        return;
     }
 }
 

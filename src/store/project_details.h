@@ -8,7 +8,7 @@
 #include "platform/database.h"
 #include "platform/menu.h"
 #include "platform/screen.h"
-#include "store/main_window.h"
+#include "store/help.h"
 
 /// The modal form `frmProject`, on which the user enters or changes the one row of `PROJECT`, without a toolkit.
 ///
@@ -90,7 +90,7 @@ void attach_project_datasource();
 /// Starts a new row with its start values.
 void addnewproject();
 
-/// The row is about to change; reason 11 is its first change and sets the changed flag.
+/// The row is about to change; reason 11 is its first change and sets the changed flag, another reason does nothing.
 void brookprojrs_WillChangeRecord(int reason);
 
 /// The user typed `text` into `field` or picked it: the one entry for every edit. Characters beyond the limit are

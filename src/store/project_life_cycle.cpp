@@ -13,6 +13,7 @@
 #include "store/project_session.h"
 #include "store/project_store.h"
 #include "store/windows.h"
+#include "store/workspace_entry.h"
 
 namespace gullymark::store {
 namespace {
@@ -183,12 +184,8 @@ void upgrade_project(const std::string& major_release, const std::string& minor_
         return;
     }
     for (const std::string& statement : upgrade_statements(major_release, minor_release)) {
-        try {
-            project_store.connection.execute(statement);
-        } catch (const platform::Failure&) {
-            // A column that exists already, or one that never did: the next statement runs all the same.
-            continue;
-        }
+        // A column that exists already, or one that never did: the next statement runs all the same.
+        platform::ignore_failure([&] { project_store.connection.execute(statement); });
     }
 }
 

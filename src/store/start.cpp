@@ -18,17 +18,11 @@ void wait_for_splash() {
 }
 
 void tarnelbrookmain() {
-    const auto try_step = [](auto step) {
-        try {
-            step();
-        } catch (const platform::Failure&) {
-            return;
-        }
-    };
-    try_step([] { call(windows.show_splash); });
-    try_step(wait_for_splash);
-    try_step([] { call(windows.unload_splash); });
-    try_step(load_main_window);
+    using platform::ignore_failure;
+    ignore_failure([] { call(windows.show_splash); });
+    ignore_failure(wait_for_splash);
+    ignore_failure([] { call(windows.unload_splash); });
+    ignore_failure(load_main_window);
     frmsoftwaremain.visible = true;
 }
 

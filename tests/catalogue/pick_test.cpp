@@ -1,3 +1,5 @@
+#include "catalogue/pick.h"
+
 #include <gtest/gtest.h>
 
 #include <map>

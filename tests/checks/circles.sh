@@ -10,7 +10,7 @@ includes_of() {
     sed -E 's@^(.*)\.(cpp|h):#include "(.*)\.(h|def)"$@\1 \3@' | awk '$1 != $2' | sort -u
 }
 
-for folder in engine platform reports; do
+for folder in catalogue engine platform reports store; do
   if ! circle=$(includes_of "$folder" | tsort 2>&1 >/dev/null); then
     printf 'src/%s holds a circle:\n%s\n' "$folder" "$circle"
     failed=1

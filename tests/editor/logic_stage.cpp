@@ -8,6 +8,7 @@
 
 #include "editor/form_user.h"
 #include "platform/files.h"
+#include "store/main_menu.h"
 #include "support/fresh_start.h"
 
 namespace gullymark::roads {

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "catalogue/pick.h"
 #include "editor/field_rules.h"
 #include "editor_test.h"
 

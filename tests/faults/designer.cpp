@@ -7,6 +7,7 @@
 #include "platform/files.h"
 #include "platform/spreadsheet.h"
 #include "reports/report_writer.h"
+#include "store/main_menu.h"
 #include "support/fresh_start.h"
 #include "support/sqlite_file.h"
 

@@ -1,6 +1,9 @@
 #include "store/main_window.h"
 
 #include "project_level.h"
+#include "store/help.h"
+#include "store/main_menu.h"
+#include "store/workspace_entry.h"
 
 namespace gullymark::store {
 namespace {

@@ -4,6 +4,7 @@
 
 #include "project_level.h"
 #include "store/counties.h"
+#include "store/main_menu.h"
 
 namespace gullymark::store {
 namespace {

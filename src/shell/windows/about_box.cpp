@@ -5,7 +5,7 @@
 #include <QIcon>
 
 #include "shell/binding/turn.h"
-#include "store/main_window.h"
+#include "store/help.h"
 #include "ui_about_box.h"
 
 namespace gullymark::shell {

@@ -4,7 +4,7 @@
 
 #include "shell/binding/menus.h"
 #include "shell/binding/turn.h"
-#include "store/main_window.h"
+#include "store/main_menu.h"
 #include "ui_main_view.h"
 
 namespace gullymark::shell {

@@ -10,6 +10,8 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include "catalogue/pick.h"
+#include "catalogue/standards.h"
 #include "shell/binding/turn.h"
 
 namespace gullymark::shell {

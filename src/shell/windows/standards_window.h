@@ -3,7 +3,7 @@
 #include <QDialog>
 #include <QTableWidget>
 
-#include "catalogue/standards.h"
+#include "catalogue/table.h"
 
 namespace gullymark::shell {
 

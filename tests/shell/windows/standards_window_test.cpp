@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QScrollBar>
 
+#include "catalogue/standards.h"
 #include "engine/inlet_record.h"
 #include "shell/binding/turn.h"
 #include "shell/robot.h"
