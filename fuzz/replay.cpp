@@ -8,8 +8,8 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <random>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -29,8 +29,9 @@ std::vector<std::string> read_corpus(const std::string& folder) {
     std::ranges::sort(paths);
     std::vector<std::string> inputs;
     for (const auto& path : paths) {
-        std::ifstream file(path, std::ios::binary);
-        inputs.emplace_back(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+        std::ostringstream input;
+        input << std::ifstream(path, std::ios::binary).rdbuf();
+        inputs.push_back(input.str());
     }
     return inputs;
 }

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Tries whether the last commit gives the same Debian package wherever and whenever it is built: clones it into another
-# folder, builds and packs it there forty days later, and compares the bytes.
+# Tries whether the sources give the same Debian package wherever and whenever it is built: copies them into another
+# folder, builds and packs them there forty days later, and compares the bytes.
 #
-#   tools/try_same_package.sh [PACKAGE.deb]    PACKAGE.deb: of the same commit; made by tools/make_deb.sh when not given
+#   tools/try_same_package.sh [BUILD_FOLDER]    packs what was built there, without a build of its own
 #
 # Needs faketime (tools/set_up.sh release) for the later day.
 set -euo pipefail
@@ -10,20 +10,28 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
+run() {
+  "$@" >"$work/log" 2>&1 || { tail -n 40 "$work/log" >&2; echo "try_same_package: no package from: $*" >&2; exit 1; }
+}
+
+export SOURCE_DATE_EPOCH
+SOURCE_DATE_EPOCH=$(git log -1 --format=%ct 2>/dev/null || stat -c %Y CMakeLists.txt)
 if [ $# -eq 0 ]; then
-  tools/make_deb.sh >"$work/log" 2>&1 || { cat "$work/log" >&2; exit 1; }
-  set -- build/release/gullymarkal_*.deb
+  run tools/make_deb.sh
+  set -- build/release
+else
+  (umask 022 && cd "$1" && run cpack)
 fi
-git clone -q . "$work/another folder of sources"
-later=("faketime" "+40 days")
-if ! "${later[@]}" "$work/another folder of sources/tools/make_deb.sh" >"$work/log" 2>&1; then
-  tail -n 40 "$work/log" >&2
-  echo "try_same_package: no second package" >&2
-  exit 1
-fi
-second=$(echo "$work/another folder of sources/build/release"/gullymarkal_*.deb)
-if ! cmp "$1" "$second"; then
+
+second="$work/another folder of sources"
+mkdir "$second"
+tar -c --exclude=./build --exclude=./.git . | tar -x -C "$second"
+run faketime '+40 days' "$second/tools/make_deb.sh"
+
+first=("$1"/gullymarkal_*.deb)
+second=("$second"/build/release/gullymarkal_*.deb)
+if ! cmp "${first[0]}" "${second[0]}"; then
   echo "try_same_package: built elsewhere and later the package differs" >&2
   exit 1
 fi
-echo "try_same_package: the same $(stat -c %s "$second") bytes"
+echo "try_same_package: the same $(stat -c %s "${first[0]}") bytes"

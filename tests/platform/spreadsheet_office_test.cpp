@@ -13,6 +13,7 @@
 #include "platform/outside.h"
 #include "platform/spreadsheet.h"
 #include "support/failure_text.h"
+#include "support/outside_double.h"
 
 namespace gullymark::platform {
 namespace {
@@ -101,8 +102,7 @@ TEST_F(SpreadsheetOffice, TheCellsWrittenAreHandedOverAndThenShown) {
     sheet.write({1, 2}, "1/2");
     sheet.write({1, 3}, "");
     hand_over({.path = "a.xls"}, sheet);
-    std::ifstream file(said);
-    EXPECT_EQ((std::string{std::istreambuf_iterator<char>(file), {}}),
+    EXPECT_EQ(testing_support::read_file(said),
               "limit\t10\nopen\ta.xls\tfirst\ntext\t1\t2\t1/2\nempty\t1\t3\nnumber\t2\t1\t0.1\nshow\n");
 }
 
@@ -114,8 +114,7 @@ TEST_F(SpreadsheetOffice, TheTemplateAndHowTheSheetIsShownAreHandedOver) {
     Sheet sheet = open_sheet(file);
     sheet.keep_together({15, 17});
     hand_over(file, sheet);
-    std::ifstream lines(said);
-    EXPECT_EQ((std::string{std::istreambuf_iterator<char>(lines), {}}),
+    EXPECT_EQ(testing_support::read_file(said),
               "limit\t10\nopen\t\tfirst\ta.xlr\nkeep\t15\t17\nfreeze\t14\t2\nshow\n");
 }
 

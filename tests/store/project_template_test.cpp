@@ -60,7 +60,7 @@ TEST_F(ProjectTemplateTest, ANewProjectIsMarkedWithProductAndRelease) {
     project.open(connection, gullymark::store::select_project);
     project.add_new();
     Row row(project.columns().size());
-    row[0] = "P-1";
+    row.at(0) = "P-1";
     project.save(row);
     EXPECT_EQ(run_sql(path, "SELECT PRODUCT_NAME, MAJOR_RELEASE, MINOR_RELEASE, RELEASE_DATE FROM PROJECT"),
               "GULLYMARKAL|1|00|MAY 2010");
