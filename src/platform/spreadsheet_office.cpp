@@ -2,7 +2,6 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <spawn.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -17,6 +16,7 @@
 #include "platform/number_text.h"
 #include "platform/office_lines.h"
 #include "platform/outside.h"
+#include "platform/process.h"
 #include "platform/spreadsheet.h"
 
 namespace gullymark::platform {
@@ -56,24 +56,6 @@ Talk::~Talk() {
     hang_up();
 }
 
-// In a session of its own, so that an interrupt meant for us lets it tidy up.
-pid_t spawn(const std::string& program, int connection) {
-    std::string name = program;
-    std::array<char*, 2> arguments = {name.data(), nullptr};
-    posix_spawn_file_actions_t files;
-    posix_spawn_file_actions_init(&files);
-    posix_spawn_file_actions_adddup2(&files, connection, STDIN_FILENO);
-    posix_spawn_file_actions_adddup2(&files, connection, STDOUT_FILENO);
-    posix_spawnattr_t attributes;
-    posix_spawnattr_init(&attributes);
-    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID);
-    pid_t spawned = 0;
-    const int error = posix_spawn(&spawned, name.c_str(), &files, &attributes, arguments.data(), environ);
-    posix_spawnattr_destroy(&attributes);
-    posix_spawn_file_actions_destroy(&files);
-    return error == 0 ? spawned : -1;
-}
-
 // An earlier helper may be ending the office that the next one would talk to. Waits for it, but not for one that
 // waits for the office itself.
 void let_helpers_end(std::chrono::seconds patience) {
@@ -100,7 +82,9 @@ void start_talk() {
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) {
         throw Failure("No spreadsheet program can be reached.");
     }
-    const pid_t helper = spawn(talk.settings.program, ends[1]);
+    // An interrupt that is meant for us lets it tidy up.
+    const pid_t helper = start_program({talk.settings.program},
+                                       {.input = ends[1], .output = ends[1], .errors = STDERR_FILENO});
     close(ends[1]);
     talk.connection = ends[0];
     if (helper < 0) {

@@ -1,9 +1,6 @@
 #include "platform/office/office.h"
 
-#include <fcntl.h>
-#include <spawn.h>
 #include <sys/wait.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
@@ -22,6 +19,7 @@
 #include "platform/failure.h"
 #include "platform/office/pipes.h"
 #include "platform/office/texts.h"
+#include "platform/process.h"
 
 namespace gullymark::office {
 namespace {
@@ -53,28 +51,10 @@ std::vector<std::string> start_arguments(const OfficeChoice& choice, const std::
     return arguments;
 }
 
-// In a session and process group of its own, with no tie to our streams: it lives on when we have ended.
+// It has no tie to our streams.
 pid_t start_office(const OfficeChoice& choice, const std::string& pipe) {
-    std::vector<std::string> arguments = start_arguments(choice, pipe);
-    std::vector<char*> pointers;
-    for (std::string& argument : arguments) {
-        pointers.push_back(argument.data());
-    }
-    pointers.push_back(nullptr);
-
-    posix_spawn_file_actions_t files;
-    posix_spawn_file_actions_init(&files);
-    posix_spawn_file_actions_addopen(&files, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
-    posix_spawn_file_actions_addopen(&files, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
-    posix_spawn_file_actions_addopen(&files, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-    posix_spawnattr_t attributes;
-    posix_spawnattr_init(&attributes);
-    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID);
-    pid_t started = 0;
-    const int error = posix_spawn(&started, pointers.front(), &files, &attributes, pointers.data(), environ);
-    posix_spawnattr_destroy(&attributes);
-    posix_spawn_file_actions_destroy(&files);
-    if (error != 0) {
+    const pid_t started = platform::start_program(start_arguments(choice, pipe), {});
+    if (started < 0) {
         throw platform::Failure("The spreadsheet program cannot be started.");
     }
     return started;
