@@ -13,6 +13,7 @@
 #include "platform/database.h"
 #include "platform/database_statements.h"
 #include "platform/failure.h"
+#include "platform/row_set.h"
 #include "target.h"
 
 namespace {

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/database.h"
+#include "platform/row_set.h"
 
 /// The data source behind a list of inlets: a connection of its own on the project file, a row set, and the texts that
 /// the last query read. The list shows these until it queries again, whatever happens to the file meanwhile.

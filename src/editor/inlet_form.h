@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "editor/inlet_screen.h"
-#include "platform/database.h"
+#include "platform/row_set.h"
 
 /// The inlet design form `frminletMDIC` without a toolkit: its state, and the events of its fields.
 ///

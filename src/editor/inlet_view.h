@@ -4,7 +4,7 @@
 
 #include "editor/inlet_screen.h"
 #include "engine/inlet_record.h"
-#include "platform/database.h"
+#include "platform/row_set.h"
 
 /// The record view `frmviewinlet`: one inlet, read only, on the four tabs of the design form and under its names.
 namespace gullymark::editor {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/inlet_record.h"
-#include "platform/database.h"
+#include "platform/row_set.h"
 
 /// Between the current row of a row set over INLET and an inlet in memory.
 ///

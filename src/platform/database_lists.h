@@ -3,7 +3,6 @@
 #include <string>
 #include <vector>
 
-#include "platform/database.h"
 #include "platform/database_sqlite.h"
 #include "platform/text_rows.h"
 

@@ -42,10 +42,11 @@ struct DatabaseHandle {
     /// Closes the file, if it is open; the row sets that share it fail from then on.
     void close();
 
-    /// From here on each statement may use so much of the processor; one that needs more fails, and all after it do: in a
-    /// damaged or crafted file a statement may never end. The longest of 100,000 inlets, the check, needs a seventh of it.
+    // The longest statement on 100,000 inlets, the check, needs a seventh of it.
     static constexpr std::int64_t most_milliseconds = 1500;
     static constexpr std::int64_t most_milliseconds_when_damaged = 250;
+    /// From here on each statement may use so much of the processor; one that needs more fails, and all after it do: in a
+    /// damaged or crafted file a statement may never end.
     void limit_time(std::int64_t milliseconds = most_milliseconds);
 
     /// The keys of the rows, in the order of `query`. Sets of the same rows share them until the file changes: a
@@ -82,7 +83,7 @@ class Statement {
     /// Steps through all of it, rows or none.
     void run();
 
-    // Columns count from 0.
+    /// How many columns a row has, 0 where the statement gives no rows. Columns count from 0.
     [[nodiscard]] int column_count() const { return sqlite3_column_count(statement_); }
     /// Of the row that `step` stands on; nothing for a null.
     [[nodiscard]] std::optional<std::string> text(int column) const;
@@ -109,6 +110,7 @@ class Transaction {
     Transaction(Transaction&&) = delete;
     Transaction& operator=(Transaction&&) = delete;
 
+    /// Stores them all. A failure leaves the end to the destructor.
     void commit();
 
     /// False once a failure has rolled it back.

@@ -34,13 +34,16 @@ NumberRead read_number(std::string_view text);
 /// Values from 1E-04 up to below 1E+15 are written without an exponent. Zero is "0", never "-0".
 std::string number_text(double number);
 
-/// The same without a string of its own, for who writes many.
+/// The decimal text of a number, in place.
 struct NumberLetters {
     std::array<char, 32> letters{};
     std::size_t count = 0;
 
+    /// Valid as long as this object.
     operator std::string_view() const { return {letters.data(), count}; }
 };
+
+/// As `number_text`, without a string of its own, for who writes many.
 NumberLetters number_letters(double number);
 
 /// `text` written as a number with as many decimals as `format` has zeros behind its point ("0.000", "#0", "#0.00"),

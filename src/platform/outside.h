@@ -49,6 +49,7 @@ struct Outside {
     /// Lets the windows paint themselves and serve the clipboard while something outside is waited for; called many
     /// times a second. It takes no input.
     std::function<void()> keep_painting;
+    /// Tells by a sound that an input was refused.
     std::function<void()> beep;
     /// Seconds since midnight, local time, with its fraction.
     std::function<double()> time_of_day;
@@ -67,9 +68,11 @@ void tell(const std::string& text, BoxKind kind = BoxKind::plain,
 bool ask(const std::string& text, BoxKind kind = BoxKind::warning_question,
          const std::string& title = application_title, Answer on_enter = Answer::no);
 
-// The functions of the table of the same names; each does nothing where nobody set its own.
+/// The function of the table of the same name; nothing where nobody set one.
 void show_wait_pointer(bool waiting);
+/// The function of the table of the same name; nothing where nobody set one.
 void keep_painting();
+/// The function of the table of the same name; nothing where nobody set one.
 void beep();
 /// The date that the table gives, else the system's, local time.
 [[nodiscard]] std::chrono::year_month_day today();

@@ -1,3 +1,5 @@
+#include "platform/row_set.h"
+
 #include <algorithm>
 #include <functional>
 #include <memory>

@@ -67,8 +67,9 @@ class Sheet {
 
     /// By the rule above.
     void write(CellPosition cell, std::string_view text);
-    /// As they are, whatever the cell's format.
+    /// The number as it is, whatever the cell's format.
     void write(CellPosition cell, double number);
+    /// The date as it is, whatever the cell's format.
     void write(CellPosition cell, Date date);
 
     /// What was written last, or else what the workbook holds.
@@ -77,6 +78,7 @@ class Sheet {
     /// No page ends between these rows.
     void keep_together(RowRange rows) { filling_.kept_rows.push_back(rows); }
 
+    /// All that was written and told so far, for the spreadsheet application.
     [[nodiscard]] const Filling& filling() const { return filling_; }
 
   private:

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/database.h"
 #include "platform/database_sqlite.h"
+#include "platform/text_rows.h"
 
 /// One row of a table in the file, by its key. Each of these is one statement, carried out whole or not at all.
 namespace gullymark::platform {

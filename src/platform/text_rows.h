@@ -9,6 +9,9 @@
 
 namespace gullymark::platform {
 
+/// A text or null for each column of a row.
+using Row = std::vector<std::optional<std::string>>;
+
 /// The texts of many rows, as one query gave them: they stay whatever happens to the file. A null is an empty text.
 /// All of them stand in one piece of memory, for a list of 100,000 inlets has a million.
 class TextRows {
@@ -22,6 +25,7 @@ class TextRows {
     /// Row i is from now on the one that was added as number order[i], from 0; one that never was has empty texts.
     void put_in_order(std::vector<std::size_t> order) { order_ = std::move(order); }
 
+    /// How many rows there are; those in order, once `put_in_order` has told it.
     [[nodiscard]] std::size_t count() const { return order_ ? order_->size() : count_added(); }
 
     /// A cell, both counted from 0; empty for one that is not there.

@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "platform/database.h"
 #include "platform/menu.h"
+#include "platform/row_set.h"
 #include "platform/screen.h"
 #include "store/help.h"
 

@@ -2,6 +2,7 @@
 
 #include "platform/failure.h"
 #include "platform/outside.h"
+#include "platform/row_set.h"
 #include "store/project_session.h"
 
 namespace gullymark::store {

@@ -5,6 +5,7 @@
 #include <chrono>
 
 #include "platform/database.h"
+#include "platform/row_set.h"
 #include "support/child_process.h"
 #include "support/failure_text.h"
 #include "support/outside_double.h"

@@ -7,6 +7,7 @@
 #include <map>
 
 #include "platform/database.h"
+#include "platform/row_set.h"
 #include "support/cut_short.h"
 #include "support/failure_text.h"
 #include "support/outside_double.h"

@@ -1,4 +1,5 @@
 #include "platform/database.h"
+#include "platform/row_set.h"
 
 #include <gtest/gtest.h>
 

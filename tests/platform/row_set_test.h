@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/database.h"
+#include "platform/row_set.h"
 #include "support/failure_text.h"
 #include "support/outside_double.h"
 #include "support/sqlite_file.h"

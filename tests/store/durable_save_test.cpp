@@ -8,6 +8,7 @@
 #include <thread>
 
 #include "platform/files.h"
+#include "platform/row_set.h"
 #include "store/project_store.h"
 #include "support/child_process.h"
 #include "support/outside_double.h"

@@ -12,6 +12,7 @@
 #include "platform/database.h"
 #include "platform/files.h"
 #include "platform/outside.h"
+#include "platform/row_set.h"
 #include "store/main_window.h"
 #include "store/project_details.h"
 #include "store/project_life_cycle.h"

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/files.h"
+#include "platform/row_set.h"
 #include "store/project_session.h"
 #include "support/failure_text.h"
 #include "support/outside_double.h"

@@ -3,6 +3,7 @@
 
 #include "engine/inlet_record.h"
 #include "platform/files.h"
+#include "platform/row_set.h"
 #include "store/project_store.h"
 #include "support/outside_double.h"
 #include "support/sqlite_file.h"
