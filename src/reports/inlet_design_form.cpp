@@ -1,3 +1,5 @@
+#include "reports/inlet_design_form.h"
+
 #include <array>
 #include <string>
 #include <vector>
@@ -8,9 +10,9 @@
 #include "platform/failure.h"
 #include "platform/number_text.h"
 #include "platform/outside.h"
+#include "platform/row_set.h"
 #include "reports/cell_steps.h"
 #include "reports/report_file.h"
-#include "reports/report_writer.h"
 #include "store/project_session.h"
 #include "store/project_store.h"
 

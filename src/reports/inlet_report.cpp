@@ -1,3 +1,5 @@
+#include "reports/inlet_report.h"
+
 #include <array>
 #include <span>
 
@@ -7,7 +9,6 @@
 #include "platform/outside.h"
 #include "reports/cell_steps.h"
 #include "reports/report_file.h"
-#include "reports/report_writer.h"
 #include "store/project_session.h"
 
 namespace gullymark::reports {

@@ -6,7 +6,13 @@
 
 #include "platform/spreadsheet.h"
 
-/// The file of a report: how the user names it, and its way from the template to the user's spreadsheet.
+/// The file of a report: how the user names it, and its way from the template to the user's spreadsheet. A report copies a
+/// template of the program's folder to a path that the user chooses, fills the copy and leaves it open and unsaved in the
+/// user's spreadsheet application; the file itself stays a bare copy of the template until the user saves it there.
+///
+/// Failures are ignored step by step: a cell whose value cannot be had stays as the template has it; where the copy cannot
+/// be made the sheet is filled all the same, as a new workbook without a name; and without a spreadsheet application the
+/// copy is made and nothing is shown.
 namespace gullymark::reports {
 
 struct ReportFile {

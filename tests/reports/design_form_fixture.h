@@ -4,6 +4,7 @@
 #include <map>
 #include <string>
 
+#include "reports/inlet_design_form.h"
 #include "reports/report_fixture.h"
 #include "store/project_store.h"
 #include "support/sqlite_file.h"

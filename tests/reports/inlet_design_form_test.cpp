@@ -1,3 +1,5 @@
+#include "reports/inlet_design_form.h"
+
 #include <array>
 
 #include "reports/design_form_fixture.h"

@@ -1,3 +1,5 @@
+#include "reports/inlet_report.h"
+
 #include <algorithm>
 #include <filesystem>
 

@@ -4,6 +4,8 @@
 
 #include "platform/spreadsheet_office.h"
 #include "reports/cell_table.h"
+#include "reports/inlet_design_form.h"
+#include "reports/inlet_report.h"
 #include "store/project_store.h"
 #include "support/child_process.h"
 #include "support/sqlite_file.h"

@@ -7,7 +7,6 @@
 
 #include "engine/inlet_record.h"
 #include "platform/number_text.h"
-#include "reports/report_writer.h"
 #include "store/project_session.h"
 #include "support/outside_double.h"
 #include "support/spreadsheet_double.h"
