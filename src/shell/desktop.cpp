@@ -15,6 +15,7 @@
 #include <QUrl>
 
 #include "platform/outside.h"
+#include "shell/binding/qt_text.h"
 #include "shell/binding/turn.h"
 
 namespace gullymark::shell {
@@ -46,9 +47,9 @@ Answer show_box(const platform::Box& box) {
     count_modal_round();
     QMessageBox window(QApplication::activeWindow());
     window.setIcon(icon_of(box.kind));
-    window.setWindowTitle(QString::fromStdString(box.title));
+    window.setWindowTitle(to_qt(box.title));
     window.setTextFormat(Qt::PlainText);
-    window.setText(QString::fromStdString(box.text));
+    window.setText(to_qt(box.text));
     if (is_question(box.kind)) {
         window.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
         window.setDefaultButton(box.on_enter == Answer::yes ? QMessageBox::Yes : QMessageBox::No);
@@ -62,7 +63,7 @@ Answer show_box(const platform::Box& box) {
 
 /// "Gullymark files (*.gmk)|*.gmk|All files|*" as the name filters "Gullymark files (*.gmk)", "All files (*)".
 QStringList name_filters(const std::string& filter) {
-    const QStringList parts = QString::fromStdString(filter).split('|');
+    const QStringList parts = to_qt(filter).split('|');
     QStringList filters;
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
         const QString name = parts[i].section('(', 0, 0).trimmed();
@@ -135,25 +136,25 @@ class OneFileDialog : public QFileDialog {
 std::optional<std::string> choose_file(const platform::FileDialogRequest& request) {
     show_all();
     count_modal_round();
-    OneFileDialog dialog(QApplication::activeWindow(), QString::fromStdString(request.title));
+    OneFileDialog dialog(QApplication::activeWindow(), to_qt(request.title));
     // The desktops' own dialogs differ in whether they ask about overwriting; the flows ask themselves.
     dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
     dialog.setAcceptMode(request.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(request.must_exist && !request.saving ? QFileDialog::ExistingFile
                                                              : QFileDialog::AnyFile);
     dialog.setNameFilters(name_filters(request.filter));
-    dialog.setDirectory(QString::fromStdString(request.initial_folder));
+    dialog.setDirectory(to_qt(request.initial_folder));
     if (!request.file_name.empty()) {
-        dialog.selectFile(QString::fromStdString(request.file_name));
+        dialog.selectFile(to_qt(request.file_name));
     }
     if (dialog.exec() != QDialog::Accepted || dialog.chosen().isEmpty()) {
         return std::nullopt;
     }
-    return QDir::toNativeSeparators(dialog.chosen()).toStdString();
+    return from_qt(QDir::toNativeSeparators(dialog.chosen()));
 }
 
 void open_help(const std::string& path) {
-    const QString file = QString::fromStdString(path);
+    const QString file = to_qt(path);
     if (!QFileInfo(file).isFile()) {
         platform::tell("The help file is missing: " + path, BoxKind::warning);
     } else if (!QDesktopServices::openUrl(QUrl::fromLocalFile(file))) {

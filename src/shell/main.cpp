@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "platform/files.h"
+#include "shell/binding/qt_text.h"
 #include "shell/binding/turn.h"
 #include "shell/start.h"
 #include "store/start.h"
@@ -17,7 +18,7 @@ int main(int argc, char** argv) {
     static_cast<void>(std::setlocale(LC_NUMERIC, "C"));
     QApplication::setApplicationName("GullymarkAL");
     QApplication::setApplicationDisplayName({});
-    gullymark::platform::set_program_folder(QApplication::applicationDirPath().toStdString());
+    gullymark::platform::set_program_folder(shell::from_qt(QApplication::applicationDirPath()));
     shell::build_windows();
     shell::handle(gullymark::store::tarnelbrookmain);
     return QApplication::exec();

@@ -13,7 +13,7 @@
 #include <QTabWidget>
 
 #include "editor/screen_fields.h"
-#include "shell/binding/binder.h"
+#include "shell/binding/input_filter.h"
 
 namespace gullymark::roads {
 namespace {

@@ -17,7 +17,7 @@
 #include <QTest>
 
 #include "robot.h"
-#include "shell/binding/binder.h"
+#include "shell/binding/input_filter.h"
 #include "window_sights.h"
 
 namespace gullymark::roads {

@@ -6,15 +6,18 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
-#include <QApplication>
 #include <QComboBox>
 #include <QCompleter>
+#include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QWindow>
 
+#include "shell/binding/input_filter.h"
+#include "shell/binding/put_on_screen.h"
+#include "shell/binding/qt_text.h"
 #include "shell/binding/turn.h"
 
 namespace gullymark::shell {
@@ -31,68 +34,68 @@ QString shared_name(const QString& name) {
     return QString(name).remove(number);
 }
 
-}  // namespace
-
-QLineEdit* line_of(QWidget& widget) {
-    auto* list = qobject_cast<QComboBox*>(&widget);
-    return list != nullptr ? list->lineEdit() : qobject_cast<QLineEdit*>(&widget);
+/// Each item with its widgets in `form`. Throws std::logic_error as the binder does.
+std::vector<BoundItem> match(const QWidget& form, std::vector<ScreenItem> items) {
+    std::string missing;
+    std::vector<BoundItem> bound;
+    bound.reserve(items.size());
+    for (ScreenItem& item : items) {
+        bound.push_back({.item = std::move(item), .widgets = {}});
+    }
+    const auto named = [&bound](const QString& name) {
+        return std::ranges::find(bound, from_qt(name),
+                                 [](const BoundItem& one) -> const std::string& { return one.item.name; });
+    };
+    for (QWidget* widget : form.findChildren<QWidget*>()) {
+        const QString name = widget->objectName();
+        if (widget->isWindow() || is_part_of_the_toolkit(*widget) || name.startsWith("fixed_")) {
+            continue;
+        }
+        auto shown = named(name);
+        if (shown == bound.end()) {
+            shown = named(shared_name(name));
+        }
+        if (shown == bound.end()) {
+            missing += "\nwidget without an item: " + from_qt(name);
+        } else {
+            shown->widgets.push_back(widget);
+        }
+    }
+    for (const BoundItem& item : bound) {
+        if (item.widgets.empty()) {
+            missing += "\nitem without a widget: " + item.item.name;
+        }
+    }
+    if (!missing.empty()) {
+        throw std::logic_error(from_qt(form.objectName()) + ":" + missing);
+    }
+    return bound;
 }
 
+/// A wheel turned over a list or over tabs that the user is not in means the page below, not them.
+bool is_stray_wheel(const QEvent& event, const QWidget& widget) {
+    const bool turns = qobject_cast<const QComboBox*>(&widget) != nullptr ||
+                       qobject_cast<const QTabBar*>(&widget) != nullptr;
+    return event.type() == QEvent::Wheel && turns && !widget.hasFocus();
+}
+
+}  // namespace
+
 Binder::Binder(QWidget& form, std::vector<ScreenItem> items)
-    : QObject(&form), form_(form), window_(*form.window()) {
-    match(std::move(items));
-    for (Bound& bound : bound_) {
+    : QObject(&form), bound_(match(form, std::move(items))), focus_(*form.window(), bound_) {
+    for (const BoundItem& bound : bound_) {
         for (QWidget* widget : bound.widgets) {
             watch(bound, *widget);
         }
     }
-    for (auto* bar : form_.findChildren<QTabBar*>()) {
+    for (auto* bar : form.findChildren<QTabBar*>()) {
         bar->setFocusPolicy(Qt::StrongFocus);
         bar->installEventFilter(this);
     }
-    window_.winId();  // makes the native window, which sees every event before any widget does
-    window_.windowHandle()->installEventFilter(this);
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { focus_came(now); });
     add_view([this] { show(); });
 }
 
-void Binder::match(std::vector<ScreenItem> items) {
-    std::string missing;
-    bound_.reserve(items.size());
-    for (ScreenItem& item : items) {
-        bound_.push_back({.item = std::move(item), .widgets = {}});
-    }
-    for (QWidget* widget : form_.findChildren<QWidget*>()) {
-        if (widget->isWindow() || is_part_of_the_toolkit(*widget) ||
-            widget->objectName().startsWith("fixed_")) {
-            continue;
-        }
-        const std::string name = widget->objectName().toStdString();
-        const std::string shared = shared_name(widget->objectName()).toStdString();
-        const auto named = [&](const std::string& wanted) {
-            return std::ranges::find(bound_, wanted, [](const Bound& bound) { return bound.item.name; });
-        };
-        auto bound = named(name);
-        if (bound == bound_.end()) {
-            bound = named(shared);
-        }
-        if (bound == bound_.end()) {
-            missing += "\nwidget without an item: " + name;
-        } else {
-            bound->widgets.push_back(widget);
-        }
-    }
-    for (const Bound& bound : bound_) {
-        if (bound.widgets.empty()) {
-            missing += "\nitem without a widget: " + bound.item.name;
-        }
-    }
-    if (!missing.empty()) {
-        throw std::logic_error(form_.objectName().toStdString() + ":" + missing);
-    }
-}
-
-void Binder::watch(Bound& bound, QWidget& widget) {
+void Binder::watch(const BoundItem& bound, QWidget& widget) {
     const ScreenItem& item = bound.item;
     widget.installEventFilter(this);
     watch_list(item, widget);
@@ -100,7 +103,7 @@ void Binder::watch(Bound& bound, QWidget& widget) {
         line->installEventFilter(this);
         connect(line, &QLineEdit::textEdited, this, [&item](const QString& text) {
             if (item.edited) {
-                handle([&] { item.edited(text.toStdString()); });
+                handle([&] { item.edited(from_qt(text)); });
             }
         });
         const auto most = static_cast<std::size_t>(line->maxLength());
@@ -111,14 +114,13 @@ void Binder::watch(Bound& bound, QWidget& widget) {
         connect(button, &QAbstractButton::clicked, this, [&item] { handle(item.clicked); });
     }
     if (auto* tabs = qobject_cast<QTabWidget*>(&widget)) {
-        tabs_ = tabs;
         connect(tabs, &QTabWidget::currentChanged, this, [this, &item](int page) {
             if (item.turned) {
                 handle([&] { item.turned(page); });
             }
             // Who walks over the tabs by arrow keys stays there.
             if (!showing() && QGuiApplication::mouseButtons() != Qt::NoButton) {
-                begin_page(page);
+                focus_.begin_page(page);
             }
         });
     }
@@ -140,7 +142,7 @@ void Binder::watch_list(const ScreenItem& item, QWidget& widget) {
     connect(list, &QComboBox::activated, this, [&item, list](int index) {
         const auto& told = item.picked ? item.picked : item.edited;
         if (told) {
-            handle([&] { told(list->itemText(index).toStdString()); });
+            handle([&] { told(from_qt(list->itemText(index))); });
         }
     });
     if (item.opened) {
@@ -148,16 +150,43 @@ void Binder::watch_list(const ScreenItem& item, QWidget& widget) {
     }
 }
 
+/// `popup` is the window in which a list drops down.
+void Binder::list_opened(const QWidget& popup) {
+    const BoundItem* bound = item_of(bound_, popup.parentWidget());
+    if (popup.isWindow() && bound != nullptr) {
+        handle(bound->item.opened);
+    }
+}
+
+bool Binder::eventFilter(QObject* watched, QEvent* event) {
+    auto* widget = qobject_cast<QWidget*>(watched);
+    if (widget == nullptr) {
+        return false;
+    }
+    if (is_stray_wheel(*event, *widget)) {
+        event->ignore();
+        return true;
+    }
+    if (event->type() == QEvent::Show) {
+        list_opened(*widget);
+        return false;
+    }
+    if (event->type() == QEvent::Drop) {
+        return !focus_.takes_drop(*widget);
+    }
+    const BoundItem* bound = item_of(bound_, widget);
+    const QLineEdit* line = line_of(*widget);
+    return event->type() == QEvent::KeyPress && bound != nullptr && bound->item.filter && line != nullptr &&
+           !takes_key(bound->item.filter, static_cast<const QKeyEvent&>(*event), *line);
+}
+
 void Binder::show() {
-    for (const Bound& bound : bound_) {
+    for (const BoundItem& bound : bound_) {
         for (QWidget* widget : bound.widgets) {
             put_on_screen(bound.item, *widget);
         }
     }
-    if (!leaving_) {
-        forget_lost_field();
-        move_focus();
-    }
+    focus_.settle();
 }
 
 }  // namespace gullymark::shell

@@ -11,6 +11,7 @@
 #include <QMenu>
 
 #include "engine/units.h"
+#include "shell/binding/qt_text.h"
 
 namespace gullymark::shell {
 namespace {
@@ -20,7 +21,7 @@ using editor::Kind;
 using editor::screen_field;
 
 void copy(const std::string& text) {
-    QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+    QGuiApplication::clipboard()->setText(to_qt(text));
 }
 
 bool has_text(FieldId id) {
@@ -35,7 +36,7 @@ std::optional<FieldId> field_of(const QWidget* widget) {
         widget = label->buddy();
     }
     for (; widget != nullptr && !widget->isWindow(); widget = widget->parentWidget()) {
-        const auto id = editor::field_named(widget->objectName().toStdString());
+        const auto id = editor::field_named(from_qt(widget->objectName()));
         if (id && has_text(*id)) {
             return id;
         }

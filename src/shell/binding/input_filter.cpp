@@ -3,12 +3,14 @@
 #include <optional>
 #include <utility>
 
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QValidator>
 
 #include "platform/characters.h"
 #include "platform/outside.h"
+#include "shell/binding/qt_text.h"
 #include "shell/binding/turn.h"
 
 namespace gullymark::shell {
@@ -69,9 +71,8 @@ class InputJudge : public QValidator {
         if (change.inserted.isEmpty()) {
             return Acceptable;
         }
-        QString counts = QString::fromStdString(
-            filter_(change.inserted.toStdString(), judged_.toStdString(),
-                    judged_.mid(change.replaced.at, change.replaced.length).toStdString()));
+        QString counts = to_qt(filter_(from_qt(change.inserted), from_qt(judged_),
+                                       from_qt(judged_.mid(change.replaced.at, change.replaced.length))));
         if (counts == change.inserted) {
             return Acceptable;
         }
@@ -130,6 +131,11 @@ QString on_one_line(QString text) {
 
 }  // namespace
 
+QLineEdit* line_of(QWidget& widget) {
+    auto* list = qobject_cast<QComboBox*>(&widget);
+    return list != nullptr ? list->lineEdit() : qobject_cast<QLineEdit*>(&widget);
+}
+
 bool takes_key(const InputFilter& filter, const QKeyEvent& press, const QLineEdit& line) {
     const bool enter = press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter;
     const QList<uint> characters = press.text().toUcs4();
@@ -140,9 +146,7 @@ bool takes_key(const InputFilter& filter, const QKeyEvent& press, const QLineEdi
         return true;
     }
     char32_t counts = 0;
-    const auto ask = [&] {
-        counts = filter.key(key, line.text().toStdString(), line.selectedText().toStdString());
-    };
+    const auto ask = [&] { counts = filter.key(key, from_qt(line.text()), from_qt(line.selectedText())); };
     if (enter) {
         handle(ask);  // it moves on, and leaves the field for that
     } else {
@@ -158,9 +162,7 @@ void filter_incoming_text(QLineEdit& line, TextFilter filter) {
 TextFilter one_line(std::size_t limit) {
     return [limit](std::string_view incoming, std::string_view whole, std::string_view selected) {
         const std::size_t kept = platform::count_characters(whole) - platform::count_characters(selected);
-        const std::string text =
-            on_one_line(QString::fromUtf8(incoming.data(), static_cast<qsizetype>(incoming.size())))
-                .toStdString();
+        const std::string text = from_qt(on_one_line(to_qt(incoming)));
         return platform::first_characters(text, limit > kept ? limit - kept : 0);
     };
 }

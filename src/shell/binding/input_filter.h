@@ -7,6 +7,7 @@
 
 class QKeyEvent;
 class QLineEdit;
+class QWidget;
 
 namespace gullymark::shell {
 
@@ -21,8 +22,12 @@ struct InputFilter {
     std::function<char32_t(char32_t key, std::string_view whole, std::string_view selected)> key;
     TextFilter text;
 
+    /// True when there is a filter: both parts are set.
     explicit operator bool() const { return key && text; }
 };
+
+/// The line in which a widget's text is typed; none for one without.
+QLineEdit* line_of(QWidget& widget);
 
 /// True when a key may go into `line`. A key that prints nothing may: it edits.
 bool takes_key(const InputFilter& filter, const QKeyEvent& press, const QLineEdit& line);

@@ -11,6 +11,7 @@
 #include <QToolBar>
 
 #include "platform/menu.h"
+#include "shell/binding/qt_text.h"
 #include "shell/binding/turn.h"
 
 namespace gullymark::shell {
@@ -30,21 +31,18 @@ void build_menu(QMainWindow& window, std::span<const platform::MenuItem<Logic>> 
     // The toolkit's own would let tool bars vanish, and F9 with them.
     window.setContextMenuPolicy(Qt::NoContextMenu);
     for (const auto& item : items) {
-        const auto text = [](std::string_view view) {
-            return QString::fromUtf8(view.data(), static_cast<qsizetype>(view.size()));
-        };
-        auto* menu = window.menuBar()->findChild<QMenu*>(text(item.menu));
+        auto* menu = window.menuBar()->findChild<QMenu*>(to_qt(item.menu));
         if (item.menu.empty()) {
-            menu = window.menuBar()->addMenu(text(item.caption));
-            menu->setObjectName(text(item.name));
+            menu = window.menuBar()->addMenu(to_qt(item.caption));
+            menu->setObjectName(to_qt(item.name));
             continue;
         }
         if (item.caption == platform::menu_separator) {
-            menu->addSeparator()->setObjectName(text(item.name));
+            menu->addSeparator()->setObjectName(to_qt(item.name));
             continue;
         }
-        QAction* action = menu->addAction(text(item.caption));
-        action->setObjectName(text(item.name));
+        QAction* action = menu->addAction(to_qt(item.caption));
+        action->setObjectName(to_qt(item.name));
         action->setShortcut(keys_of(item.name));
         action->setMenuRole(QAction::NoRole);
         QObject::connect(action, &QAction::triggered, &window,

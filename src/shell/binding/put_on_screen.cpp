@@ -1,3 +1,5 @@
+#include "shell/binding/put_on_screen.h"
+
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QGroupBox>
@@ -7,13 +9,13 @@
 #include <QSignalBlocker>
 #include <QTabWidget>
 
-#include "shell/binding/binder.h"
+#include "shell/binding/qt_text.h"
 
 namespace gullymark::shell {
 namespace {
 
 QString text_of(const ScreenItem& item) {
-    return QString::fromStdString(item.text ? item.text() : item.field->text);
+    return to_qt(item.text ? item.text() : item.field->text);
 }
 
 void put_text(QLineEdit& line, const ScreenItem& item) {
@@ -31,7 +33,7 @@ bool has_entries(const QComboBox& list, const std::vector<std::string>& entries)
         return false;
     }
     for (int i = 0; i < list.count(); ++i) {
-        if (list.itemText(i) != QString::fromStdString(entries[static_cast<std::size_t>(i)])) {
+        if (list.itemText(i) != to_qt(entries[static_cast<std::size_t>(i)])) {
             return false;
         }
     }
@@ -44,7 +46,7 @@ void put_text(QComboBox& list, const ScreenItem& item) {
     if (!has_entries(list, item.field->entries)) {
         list.clear();
         for (const auto& entry : item.field->entries) {
-            list.addItem(QString::fromStdString(entry));
+            list.addItem(to_qt(entry));
         }
     }
     if (list.currentText() != text) {
@@ -61,7 +63,7 @@ void put_text(QComboBox& list, const ScreenItem& item) {
 }
 
 void put_content(const ScreenItem& item, QWidget& widget) {
-    const QString caption = QString::fromStdString(item.field->caption);
+    const QString caption = to_qt(item.field->caption);
     if (auto* line = qobject_cast<QLineEdit*>(&widget)) {
         put_text(*line, item);
     } else if (auto* list = qobject_cast<QComboBox*>(&widget)) {

@@ -7,6 +7,8 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 
+#include "shell/binding/qt_text.h"
+
 namespace gullymark::shell {
 namespace {
 
@@ -42,7 +44,7 @@ QVariant RowsModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole)) {
         return {};
     }
-    return QString::fromStdString(source_.cell(index.row() + 1, static_cast<std::size_t>(index.column())));
+    return to_qt(source_.cell(index.row() + 1, static_cast<std::size_t>(index.column())));
 }
 
 QVariant RowsModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -50,7 +52,7 @@ QVariant RowsModel::headerData(int section, Qt::Orientation orientation, int rol
         return {};
     }
     const auto heading = source_.headings.at(static_cast<std::size_t>(section));
-    return QString::fromUtf8(heading.data(), static_cast<qsizetype>(heading.size()));
+    return to_qt(heading);
 }
 
 void set_up_rows(QTableView& table, RowsModel& model) {

@@ -26,9 +26,11 @@ void handle(const std::function<void()>& handler);
 /// Brings a window that is shown to the front when the logic asked for it once more: `shows` differs from what it was.
 void come_to_front(QWidget& window, int shows, int& shows_before);
 
-/// Counts the modal boxes, dialogs and forms that were run so far: the release of a mouse button that was pressed
-/// before one is lost.
+/// How many modal boxes, dialogs and forms were run so far: the release of a mouse button that was pressed before one is
+/// lost.
 int modal_rounds();
+
+/// Counts one more; who runs one calls it first.
 void count_modal_round();
 
 }  // namespace gullymark::shell

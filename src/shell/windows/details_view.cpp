@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 
 #include "shell/binding/menus.h"
+#include "shell/binding/qt_text.h"
 #include "shell/binding/turn.h"
 #include "store/project_details.h"
 #include "ui_details_view.h"
@@ -11,10 +12,6 @@ namespace gullymark::shell {
 namespace {
 
 using store::frmProject;
-
-QString text(std::string_view view) {
-    return QString::fromUtf8(view.data(), static_cast<qsizetype>(view.size()));
-}
 
 std::vector<ScreenItem> items() {
     std::vector<ScreenItem> items;
@@ -31,10 +28,10 @@ std::vector<ScreenItem> items() {
 
 DetailsView::DetailsView(QWidget* owner) : QMainWindow(owner, Qt::Dialog), ui_(new Ui::frmProject) {
     ui_->setupUi(this);
-    setWindowTitle(text(store::details_title));
-    ui_->fixed_details_frame->setTitle(text(store::details_frame_caption));
+    setWindowTitle(to_qt(store::details_title));
+    ui_->fixed_details_frame->setTitle(to_qt(store::details_frame_caption));
     for (const auto& field : store::details_fields) {
-        findChild<QLabel*>("fixed_label_" + text(field.name))->setText(text(field.label));
+        findChild<QLabel*>("fixed_label_" + to_qt(field.name))->setText(to_qt(field.label));
     }
     build_menu<store::ProjectDetails>(*this, store::details_menu, frmProject);
     add_tool(*ui_->fixed_tool_bar, "mnuprojsave", "save");

@@ -21,7 +21,8 @@ class DetailsView : public QMainWindow {
 
     /// Shows the form, modal, and waits until the logic has hidden it.
     void run();
-    void move_focus_on() { binder_->move_on(); }
+    /// As the Tab key in the form; nothing where the focus may not leave its field.
+    void move_focus_on() { binder_->focus().move_on(); }
 
   protected:
     void closeEvent(QCloseEvent* event) override;

@@ -38,13 +38,13 @@ void InletFormView::follow_units() {
 
 void InletFormView::carry_out_wishes() {
     if (std::exchange(begun_, frminletMDIC.begun) != frminletMDIC.begun) {
-        binder_->forget_visits();
+        binder_->focus().forget_visits();
     }
     if (const auto wanted = std::exchange(frminletMDIC.wanted_focus, std::nullopt)) {
-        binder_->focus(std::string(editor::field_name(*wanted)));
+        binder_->focus().give_to(std::string(editor::field_name(*wanted)));
     }
     if (const auto wanted = std::exchange(frminletMDIC.wanted_selection, std::nullopt)) {
-        binder_->select_all(std::string(editor::field_name(*wanted)));
+        binder_->focus().select_all(std::string(editor::field_name(*wanted)));
     }
 }
 

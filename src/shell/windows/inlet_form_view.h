@@ -22,7 +22,8 @@ class InletFormView : public QWidget {
 
     /// Binds the fields; once the form stands in its window.
     void bind();
-    void move_focus_on() { binder_->move_on(); }
+    /// As the Tab key in the form; nothing where the focus may not leave its field.
+    void move_focus_on() { binder_->focus().move_on(); }
 
   private:
     void carry_out_wishes();

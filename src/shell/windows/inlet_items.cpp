@@ -3,6 +3,7 @@
 #include "editor/inlet_form.h"
 #include "editor/inlet_view.h"
 #include "engine/units.h"
+#include "shell/binding/qt_text.h"
 
 namespace gullymark::shell {
 namespace {
@@ -76,7 +77,7 @@ void add_events(ScreenItem& item, FieldId id) {
 }
 
 QWidget* widget_of(const QWidget& form, FieldId id) {
-    return form.findChild<QWidget*>(QString::fromStdString(std::string(editor::field_name(id))));
+    return form.findChild<QWidget*>(to_qt(editor::field_name(id)));
 }
 
 }  // namespace
@@ -126,7 +127,7 @@ void put_tool_tips(QWidget& form) {
         if (const auto unit = engine::unit_text(engine::column_unit(*column)); !unit.empty()) {
             tip += " (" + std::string(unit) + ")";
         }
-        if (const QString text = QString::fromStdString(tip); widget->toolTip() != text) {
+        if (const QString text = to_qt(tip); widget->toolTip() != text) {
             widget->setToolTip(text);
         }
     }

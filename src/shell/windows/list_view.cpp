@@ -6,6 +6,7 @@
 
 #include "editor/inlet_list.h"
 #include "shell/binding/menus.h"
+#include "shell/binding/qt_text.h"
 #include "shell/binding/rows_model.h"
 #include "shell/binding/turn.h"
 #include "ui_list_view.h"
@@ -33,7 +34,7 @@ void open_row(const QModelIndex& at) {
 ListView::ListView() : ui_(new Ui::frminletflex) {
     ui_->setupUi(this);
     build_menu<editor::InletList>(*this, editor::list_menu, frminletflex);
-    ui_->fixed_count_label->setText(QString::fromUtf8(editor::list_count_label.data()));
+    ui_->fixed_count_label->setText(to_qt(editor::list_count_label));
     build_rows();
     add_view([this] { show_state(); });
 }
@@ -67,8 +68,8 @@ void ListView::build_rows() {
 }
 
 void ListView::show_state() {
-    setWindowTitle(QString::fromStdString(frminletflex.caption));
-    ui_->rec_count->setText(QString::fromStdString(frminletflex.rec_count.text));
+    setWindowTitle(to_qt(frminletflex.caption));
+    ui_->rec_count->setText(to_qt(frminletflex.rec_count.text));
     if (loads_shown_ != frminletflex.loads) {
         loads_shown_ = frminletflex.loads;
         rows_->renew();

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 
 #include "shell/binding/menus.h"
+#include "shell/binding/qt_text.h"
 #include "shell/binding/turn.h"
 #include "store/main_menu.h"
 #include "ui_main_view.h"
@@ -21,7 +22,7 @@ MainView::MainView() : ui_(new Ui::frmsoftwaremain) {
 MainView::~MainView() = default;
 
 void MainView::show_state() {
-    setWindowTitle(QString::fromStdString(frmsoftwaremain.caption));
+    setWindowTitle(to_qt(frmsoftwaremain.caption));
     for (std::size_t i = 0; i < frmsoftwaremain.status_panels.size(); ++i) {
         panels_->show(static_cast<int>(i) + 1, frmsoftwaremain.status_panels[i]);
     }

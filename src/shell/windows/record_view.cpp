@@ -4,7 +4,9 @@
 #include <QKeyEvent>
 
 #include "editor/inlet_view.h"
+#include "shell/binding/binder.h"
 #include "shell/binding/copy_texts.h"
+#include "shell/binding/qt_text.h"
 #include "shell/binding/small_screen.h"
 #include "shell/binding/turn.h"
 #include "shell/windows/inlet_items.h"
@@ -28,7 +30,7 @@ RecordView::RecordView() : form_(new Ui::frminletMDIC) {
 RecordView::~RecordView() = default;
 
 void RecordView::show_state() {
-    setWindowTitle(QString::fromStdString(frmviewinlet.caption));
+    setWindowTitle(to_qt(frmviewinlet.caption));
     if (isVisible() != frmviewinlet.visible) {
         setVisible(frmviewinlet.visible);
     }

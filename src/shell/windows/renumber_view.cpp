@@ -2,6 +2,7 @@
 
 #include "editor/renumber_dialog.h"
 #include "shell/binding/input_filter.h"
+#include "shell/binding/qt_text.h"
 #include "shell/binding/turn.h"
 #include "ui_renumber_view.h"
 
@@ -13,7 +14,7 @@ RenumberView::RenumberView(QWidget* owner) : QDialog(owner), ui_(new Ui::frminle
     ui_->setupUi(this);
     filter_incoming_text(*ui_->newinletnumber, one_line(editor::new_number_limit));
     connect(ui_->newinletnumber, &QLineEdit::textEdited, this,
-            [](const QString& text) { handle([&] { editor::edit_new_number(text.toStdString()); }); });
+            [](const QString& text) { handle([&] { editor::edit_new_number(from_qt(text)); }); });
     connect(ui_->cmdmodaccept, &QPushButton::clicked, this, [] { handle(editor::cmdmodaccept_Click); });
     connect(ui_->cmdmodcancel, &QPushButton::clicked, this, [] { handle(editor::cmdmodcancel_Click); });
     add_view([this] { show_state(); });
@@ -36,7 +37,7 @@ void RenumberView::reject() {
 
 void RenumberView::show_state() {
     const auto show_text = [](QLineEdit& line, const platform::Field& field) {
-        if (const QString text = QString::fromStdString(field.text); line.text() != text) {
+        if (const QString text = to_qt(field.text); line.text() != text) {
             line.setText(text);
         }
     };

@@ -12,23 +12,20 @@
 
 #include "catalogue/pick.h"
 #include "catalogue/standards.h"
+#include "shell/binding/qt_text.h"
 #include "shell/binding/turn.h"
 
 namespace gullymark::shell {
 namespace {
 
-QString text_of(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 /// The heading over its unit; a long one takes two lines.
 QString heading_text(const catalogue::TableColumn& column) {
     constexpr qsizetype longest_line = 14;
-    QString text = text_of(column.heading);
+    QString text = to_qt(column.heading);
     if (text.size() > longest_line) {
         text[text.lastIndexOf(' ')] = '\n';
     }
-    return text + '\n' + text_of(column.unit);
+    return text + '\n' + to_qt(column.unit);
 }
 
 /// Names stand left, numbers right, so that their decimals stand under each other.
@@ -37,9 +34,9 @@ Qt::Alignment side_of(int column) {
 }
 
 QLabel* heading_label(const catalogue::Table& table) {
-    QString text = text_of(table.heading[0]);
+    QString text = to_qt(table.heading[0]);
     if (!table.heading[1].empty()) {
-        text += '\n' + text_of(table.heading[1]);
+        text += '\n' + to_qt(table.heading[1]);
     }
     auto* label = new QLabel(text);
     label->setObjectName(QStringLiteral("heading"));
@@ -56,7 +53,7 @@ StandardsList::StandardsList(const catalogue::Table& table, QWidget* parent)
     : QTableWidget(static_cast<int>(table.rows.size()), static_cast<int>(table.columns.size()), parent),
       table_(table) {
     setObjectName(QStringLiteral("gratetypelist"));
-    setAccessibleName(text_of(table.title));
+    setAccessibleName(to_qt(table.title));
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
@@ -97,7 +94,7 @@ void StandardsList::show_row(int row) {
     const catalogue::Row& fields = table_.rows[static_cast<std::size_t>(row)];
     const bool separator = catalogue::is_separator(fields);
     for (int column = 0; column < columnCount(); ++column) {
-        auto* item = new QTableWidgetItem(text_of(fields.at(static_cast<std::size_t>(column))));
+        auto* item = new QTableWidgetItem(to_qt(fields.at(static_cast<std::size_t>(column))));
         item->setFlags(separator ? Qt::ItemIsEnabled : Qt::ItemIsEnabled | Qt::ItemIsSelectable);
         item->setTextAlignment(side_of(column) | Qt::AlignVCenter);
         if (!separator && column > 0) {
@@ -156,13 +153,13 @@ void StandardsList::focusInEvent(QFocusEvent* event) {
 }
 
 StandardsWindow::StandardsWindow(const catalogue::Table& table, QWidget* parent) : QDialog(parent) {
-    setObjectName(text_of(table.name));
-    setWindowTitle(text_of(table.title));
+    setObjectName(to_qt(table.name));
+    setWindowTitle(to_qt(table.title));
 
     auto* list = new StandardsList(table, this);
     auto* buttons = new QDialogButtonBox;
     QPushButton* select = buttons->addButton(QStringLiteral("Select"), QDialogButtonBox::AcceptRole);
-    select->setObjectName(text_of(table.select_command));
+    select->setObjectName(to_qt(table.select_command));
     select->setDefault(true);
     QPushButton* cancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
     cancel->setObjectName(QStringLiteral("gtcancel"));

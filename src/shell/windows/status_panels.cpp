@@ -3,6 +3,8 @@
 #include <QDateTime>
 #include <QLocale>
 
+#include "shell/binding/qt_text.h"
+
 namespace gullymark::shell {
 namespace {
 
@@ -29,7 +31,7 @@ StatusPanels::StatusPanels(QStatusBar& bar, const std::vector<int>& widths, bool
 }
 
 void StatusPanels::show(int number, const std::string& text) {
-    show_text(*panels_.at(static_cast<std::size_t>(number) - 1), QString::fromStdString(text));
+    show_text(*panels_.at(static_cast<std::size_t>(number) - 1), to_qt(text));
 }
 
 QLabel* StatusPanels::add(QStatusBar& bar, const QString& name, int stretch) {

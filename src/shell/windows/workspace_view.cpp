@@ -4,6 +4,7 @@
 
 #include "editor/workspace.h"
 #include "shell/binding/menus.h"
+#include "shell/binding/qt_text.h"
 #include "shell/binding/tool_icon.h"
 #include "shell/binding/turn.h"
 #include "ui_workspace_view.h"
@@ -37,8 +38,7 @@ void WorkspaceView::build_toolbar() {
             ui_->Toolbar1->addSeparator();
         }
         shown = button.index;
-        const QString caption =
-            QString::fromUtf8(button.caption.data(), static_cast<qsizetype>(button.caption.size()));
+        const QString caption = to_qt(button.caption);
         QAction* action = ui_->Toolbar1->addAction(tool_icon(caption.toLower()), caption);
         action->setObjectName(QStringLiteral("Toolbar1_%1").arg(button.index));
         action->setCheckable(true);
@@ -51,7 +51,7 @@ void WorkspaceView::build_toolbar() {
 }
 
 void WorkspaceView::show_state() {
-    setWindowTitle(QString::fromStdString(MDIInlet.caption));
+    setWindowTitle(to_qt(MDIInlet.caption));
     for (std::size_t i = 0; i < MDIInlet.screenmode.size(); ++i) {
         screenmode_->show(static_cast<int>(i) + 1, MDIInlet.screenmode.at(i));
     }

@@ -20,6 +20,7 @@ class WorkspaceView : public QMainWindow {
     WorkspaceView();
     ~WorkspaceView() override;
 
+    /// As the Tab key in its design form; nothing where the focus may not leave its field.
     void move_focus_on();
 
   protected:

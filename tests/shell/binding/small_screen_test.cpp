@@ -11,7 +11,6 @@
 #include <QTableView>
 #include <QToolBar>
 
-#include "shell/binding/binder.h"
 #include "shell/new_road.h"
 #include "shell/painted_texts.h"
 #include "shell/window_tour.h"

@@ -4,7 +4,7 @@
 #include <QClipboard>
 #include <QComboBox>
 
-#include "shell/binding/binder.h"
+#include "shell/binding/input_filter.h"
 #include "shell/new_road.h"
 
 namespace gullymark::shell {

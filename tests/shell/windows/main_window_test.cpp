@@ -169,6 +169,16 @@ TEST(MainWindow, SaysWhichHelpFileIsMissing) {
                                 "GullymarkAL"}));
 }
 
+TEST(MainWindow, SaysThatNothingOnTheDesktopOpensTheHelp) {
+    RunningProgram program;
+    const std::string help = program.folder.path("program/GullymarkAL.chm");
+    testing_support::write_file(help, "a help that this desktop has no viewer for");
+    press(RunningProgram::main(), Qt::Key_F1);
+    EXPECT_THAT(
+        program.robot.boxes,
+        ElementsAre(Box{BoxKind::warning, "No help viewer is installed that opens " + help, "GullymarkAL"}));
+}
+
 TEST(MainWindow, EndsTheProgramByItsMenuItsKeyAndItsCloseButton) {
     for (const auto& way : std::vector<std::function<void()>>{
              [] { choose(RunningProgram::main(), "mnuFile", "mnuExit"); },

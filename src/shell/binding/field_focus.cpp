@@ -1,3 +1,5 @@
+#include "shell/binding/field_focus.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -10,7 +12,7 @@
 #include <QTabWidget>
 #include <QWindow>
 
-#include "shell/binding/binder.h"
+#include "shell/binding/input_filter.h"
 #include "shell/binding/turn.h"
 
 namespace gullymark::shell {
@@ -56,53 +58,36 @@ void make(const Click& click, QWidget& window) {
     }
 }
 
-/// A wheel turned over a list or over tabs that the user is not in means the page below, not them.
-bool is_stray_wheel(const QEvent& event, const QWidget& widget) {
-    const bool turns = qobject_cast<const QComboBox*>(&widget) != nullptr ||
-                       qobject_cast<const QTabBar*>(&widget) != nullptr;
-    return event.type() == QEvent::Wheel && turns && !widget.hasFocus();
-}
-
 }  // namespace
 
-bool Binder::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == window_.windowHandle()) {
-        if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
-            return filter_press(static_cast<const QMouseEvent&>(*event));
+FieldFocus::FieldFocus(QWidget& window, const std::vector<BoundItem>& bound)
+    : window_(window), bound_(bound) {
+    for (const BoundItem& item : bound_) {
+        for (QWidget* widget : item.widgets) {
+            tabs_ = tabs_ != nullptr ? tabs_ : qobject_cast<QTabWidget*>(widget);
         }
-        if (event->type() == QEvent::KeyPress) {
-            return filter_key(static_cast<const QKeyEvent&>(*event));
-        }
-        // A letter that turns the page comes as a key, so that the field is left first.
-        if (event->type() == QEvent::ShortcutOverride &&
-            page_of(static_cast<const QKeyEvent&>(*event)) >= 0) {
-            event->accept();
-            return true;
-        }
-        return false;
     }
-    auto* widget = qobject_cast<QWidget*>(watched);
-    if (widget == nullptr) {
-        return false;
-    }
-    if (is_stray_wheel(*event, *widget)) {
-        event->ignore();
-        return true;
-    }
-    if (event->type() == QEvent::Show) {
-        list_opened(*widget);
-        return false;
-    }
-    if (event->type() == QEvent::Drop) {
-        return !takes_drop(*widget);
-    }
-    const Bound* bound = bound_to(widget);
-    const QLineEdit* line = line_of(*widget);
-    return event->type() == QEvent::KeyPress && bound != nullptr && bound->item.filter && line != nullptr &&
-           !takes_key(bound->item.filter, static_cast<const QKeyEvent&>(*event), *line);
+    window_.winId();  // makes the native window
+    window_.windowHandle()->installEventFilter(this);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { focus_came(now); });
 }
 
-int Binder::page_of(const QKeyEvent& press) const {
+bool FieldFocus::eventFilter(QObject* /*watched*/, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
+        return filter_press(static_cast<const QMouseEvent&>(*event));
+    }
+    if (event->type() == QEvent::KeyPress) {
+        return filter_key(static_cast<const QKeyEvent&>(*event));
+    }
+    // A letter that turns the page comes as a key, so that the field is left first.
+    if (event->type() == QEvent::ShortcutOverride && page_of(static_cast<const QKeyEvent&>(*event)) >= 0) {
+        event->accept();
+        return true;
+    }
+    return false;
+}
+
+int FieldFocus::page_of(const QKeyEvent& press) const {
     if (tabs_ == nullptr) {
         return -1;
     }
@@ -119,7 +104,7 @@ int Binder::page_of(const QKeyEvent& press) const {
     return -1;
 }
 
-bool Binder::filter_key(const QKeyEvent& press) {
+bool FieldFocus::filter_key(const QKeyEvent& press) {
     const int page = page_of(press);
     if (page < 0) {
         return moves_on(press) && !leave_field();
@@ -130,15 +115,7 @@ bool Binder::filter_key(const QKeyEvent& press) {
     return true;
 }
 
-/// `popup` is the window in which a list drops down.
-void Binder::list_opened(const QWidget& popup) {
-    const Bound* bound = bound_to(popup.parentWidget());
-    if (popup.isWindow() && bound != nullptr) {
-        handle(bound->item.opened);
-    }
-}
-
-bool Binder::filter_press(const QMouseEvent& press) {
+bool FieldFocus::filter_press(const QMouseEvent& press) {
     QWidget* target = focus_of_press(window_.childAt(press.position().toPoint()));
     if (target == nullptr || target == window_.focusWidget()) {
         return false;
@@ -162,7 +139,7 @@ bool Binder::filter_press(const QMouseEvent& press) {
 }
 
 /// A text dropped into a field is typed there: the user leaves the field before, and goes to this one.
-bool Binder::takes_drop(QWidget& line) {
+bool FieldFocus::takes_drop(QWidget& line) {
     QWidget& field = line.focusProxy() != nullptr ? *line.focusProxy() : line;
     if (&field == window_.focusWidget()) {
         return true;
@@ -175,7 +152,7 @@ bool Binder::takes_drop(QWidget& line) {
     return true;
 }
 
-bool Binder::leave_field() {
+bool FieldFocus::leave_field() {
     if (current_ == nullptr || leaving_) {
         return true;
     }
@@ -195,7 +172,7 @@ bool Binder::leave_field() {
     return !stays;
 }
 
-void Binder::focus_came(QWidget* widget) {
+void FieldFocus::focus_came(QWidget* widget) {
     if (widget == nullptr || widget->window() != &window_ || leaving_) {
         return;
     }
@@ -203,7 +180,7 @@ void Binder::focus_came(QWidget* widget) {
         enter_later();
         return;
     }
-    Bound* arrived = bound_to(widget);
+    const BoundItem* arrived = item_of(bound_, widget);
     if (arrived == current_) {
         return;
     }
@@ -211,7 +188,7 @@ void Binder::focus_came(QWidget* widget) {
         // It went in a way that nobody asked about: the toolkit's own, as when a page is hidden.
         const std::string back = current_->item.name;
         if (!leave_field()) {
-            focus(back);
+            give_to(back);
             move_focus();
             return;
         }
@@ -224,17 +201,24 @@ void Binder::focus_came(QWidget* widget) {
     }
 }
 
-void Binder::enter_where_focus_is() {
+void FieldFocus::enter_where_focus_is() {
     if (window_.isActiveWindow()) {
         focus_came(window_.focusWidget());
     }
 }
 
-void Binder::enter_later() {
-    QMetaObject::invokeMethod(this, &Binder::enter_where_focus_is, Qt::QueuedConnection);
+void FieldFocus::enter_later() {
+    QMetaObject::invokeMethod(this, &FieldFocus::enter_where_focus_is, Qt::QueuedConnection);
 }
 
-void Binder::forget_lost_field() {
+void FieldFocus::settle() {
+    if (!leaving_) {
+        forget_lost_field();
+        move_focus();
+    }
+}
+
+void FieldFocus::forget_lost_field() {
     if (current_ == nullptr) {
         return;
     }
@@ -246,23 +230,23 @@ void Binder::forget_lost_field() {
     }
 }
 
-void Binder::focus(const std::string& name) {
+void FieldFocus::give_to(const std::string& name) {
     wanted_ = named(name);
 }
 
-void Binder::select_all(const std::string& name) {
+void FieldFocus::select_all(const std::string& name) {
     selected_ = named(name);
 }
 
-void Binder::move_focus() {
-    if (Bound* wanted = std::exchange(wanted_, nullptr)) {
+void FieldFocus::move_focus() {
+    if (const BoundItem* wanted = std::exchange(wanted_, nullptr)) {
         wanted->widgets.front()->setFocus(Qt::OtherFocusReason);
     }
     select_text();
 }
 
-void Binder::select_text() {
-    Bound* selected = std::exchange(selected_, nullptr);
+void FieldFocus::select_text() {
+    const BoundItem* selected = std::exchange(selected_, nullptr);
     QWidget* widget = selected == nullptr ? nullptr : selected->widgets.front();
     QLineEdit* line = widget == nullptr ? nullptr : line_of(*widget);
     if (line == nullptr) {
@@ -284,7 +268,7 @@ void Binder::select_text() {
 }
 
 /// A page remembers the field in which the focus was; the toolkit puts it there again, else into the first one.
-void Binder::forget_visits() {
+void FieldFocus::forget_visits() {
     for (int page = 0; tabs_ != nullptr && page < tabs_->count(); ++page) {
         QWidget* field = tabs_->widget(page)->focusWidget();
         if (field != nullptr && field != window_.focusWidget()) {
@@ -295,7 +279,7 @@ void Binder::forget_visits() {
 
 /// The page and its first field, which the user sees only once the logic has set the page up. So the toolkit must not
 /// choose before: it finds the focus outside of the pages.
-void Binder::turn_to(int page) {
+void FieldFocus::turn_to(int page) {
     const bool first_visit = tabs_->widget(page)->focusWidget() == nullptr;
     if (first_visit && tabs_->currentWidget()->isAncestorOf(window_.focusWidget())) {
         tabs_->tabBar()->setFocus(Qt::OtherFocusReason);
@@ -304,12 +288,12 @@ void Binder::turn_to(int page) {
     begin_page(page);
 }
 
-void Binder::begin_page(int page) {
+void FieldFocus::begin_page(int page) {
     const QWidget* shown = tabs_->widget(page);
     if (shown->focusWidget() != nullptr) {
         return;
     }
-    for (const Bound& bound : bound_) {
+    for (const BoundItem& bound : bound_) {
         QWidget& widget = *bound.widgets.front();
         const bool can_be_entered = (widget.focusPolicy() & Qt::TabFocus) != 0 && widget.isEnabled();
         if (can_be_entered && shown->isAncestorOf(&widget) && widget.isVisibleTo(shown)) {
@@ -319,24 +303,24 @@ void Binder::begin_page(int page) {
     }
 }
 
-void Binder::move_on() {
+void FieldFocus::move_on() {
     if (leave_field() && window_.focusWidget() != nullptr) {
         QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
         QCoreApplication::sendEvent(window_.focusWidget(), &tab);
     }
 }
 
-Binder::Bound* Binder::bound_to(const QObject* widget) {
-    const auto found = std::ranges::find_if(bound_, [&](const Bound& bound) {
-        return std::ranges::find(bound.widgets, widget) != bound.widgets.end();
-    });
+const BoundItem* FieldFocus::named(const std::string& name) const {
+    const auto found = std::ranges::find(
+        bound_, name, [](const BoundItem& bound) -> const std::string& { return bound.item.name; });
     return found == bound_.end() ? nullptr : &*found;
 }
 
-Binder::Bound* Binder::named(const std::string& name) {
-    const auto found = std::ranges::find(
-        bound_, name, [](const Bound& bound) -> const std::string& { return bound.item.name; });
-    return found == bound_.end() ? nullptr : &*found;
+const BoundItem* item_of(const std::vector<BoundItem>& bound, const QObject* widget) {
+    const auto found = std::ranges::find_if(bound, [&](const BoundItem& item) {
+        return std::ranges::find(item.widgets, widget) != item.widgets.end();
+    });
+    return found == bound.end() ? nullptr : &*found;
 }
 
 }  // namespace gullymark::shell

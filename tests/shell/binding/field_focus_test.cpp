@@ -1,3 +1,5 @@
+#include "shell/binding/field_focus.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <QWheelEvent>
@@ -89,8 +91,8 @@ TEST(Leaving, IsRefusedWhenTheLogicWantsTheFocusBack) {
     auto items = form.items();
     items[0].leave = [&form] {
         form.number.text = "again";
-        form.binder->focus("number");
-        form.binder->select_all("number");
+        form.binder->focus().give_to("number");
+        form.binder->focus().select_all("number");
         return true;
     };
     form.bind(std::move(items));
@@ -107,7 +109,7 @@ TEST(Leaving, IsNotHeldUpByASelection) {
     SmallForm form;
     auto items = form.items();
     items[0].leave = [&form] {
-        form.binder->select_all("number");
+        form.binder->focus().select_all("number");
         return true;
     };
     form.bind(std::move(items));
@@ -164,7 +166,7 @@ TEST(Leaving, WithABoxAndRefusedKeepsTheFocusForTheNextClick) {
 TEST(Entering, SelectsAllEvenWhenTheMouseBroughtTheFocus) {
     SmallForm form;
     auto items = form.items();
-    items[0].entered = [&form] { form.binder->select_all("number"); };
+    items[0].entered = [&form] { form.binder->focus().select_all("number"); };
     form.number.text = "12.5";
     form.bind(std::move(items));
     activate(form.window);
@@ -203,7 +205,7 @@ TEST(Leaving, DoesNotRunForAFieldThatTheLogicDisables) {
 
 TEST(MovingOn, IsATab) {
     EnteredForm form;
-    handle([&] { form.binder->move_on(); });
+    handle([&] { form.binder->focus().move_on(); });
     EXPECT_THAT(form.heard, ElementsAre("leave number", "enter kind"));
     EXPECT_TRUE(form.kind_list->hasFocus());
 }
