@@ -30,6 +30,9 @@ while read -r header; do
   grep -q '^ *///' "$header" || complain "$header does not tell what it is for"
 done < <(sources -path 'src/*' -name '*.h')
 
+spelled=$(grep -rnE 'fromUtf8|fromStdString|toStdString|toUtf8' src/shell --include='*.cpp' --include='*.h' |
+  grep -v '^src/shell/binding/qt_text\.h:') && complain "a text goes to the toolkit or back by another way: $spelled"
+
 later='TO''DO|FIX''ME|XX''X:|HA''CK'
 unfinished=$(grep -nE "\b($later)\b" $(sources)) && complain "left for later: $unfinished"
 exit $failed
