@@ -86,14 +86,14 @@ bool Sheet::is_text_cell(CellPosition cell) const {
                        });
 }
 
-double number_in(const CellValue& value) {
+double cell_number(const CellValue& value) {
     if (const auto number = number_of(value)) {
         return *number;
     }
     throw Failure("The cell holds no number.");
 }
 
-std::string text_in(const CellValue& value) {
+std::string cell_text(const CellValue& value) {
     if (const auto* text = std::get_if<std::string>(&value)) {
         return *text;
     }
@@ -115,7 +115,7 @@ bool is_less(const CellValue& left, const CellValue& right) {
     if (left_number || right_number) {
         return left_number.has_value();
     }
-    return text_in(left) < text_in(right);
+    return cell_text(left) < cell_text(right);
 }
 
 }  // namespace gullymark::platform

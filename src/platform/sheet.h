@@ -90,10 +90,10 @@ class Sheet {
 
 /// A cell's value as a number: nothing is 0, a text counts by the grammar of a number; any other text, and a date,
 /// is a Failure.
-[[nodiscard]] double number_in(const CellValue& value);
+[[nodiscard]] double cell_number(const CellValue& value);
 
 /// A cell's value as a text, a number with up to 15 digits.
-[[nodiscard]] std::string text_in(const CellValue& value);
+[[nodiscard]] std::string cell_text(const CellValue& value);
 
 /// Does `left` come before `right`? Numbers and texts that read as numbers compare as numbers, nothing as 0; every
 /// other text comes behind all of these, and texts compare by their characters.

@@ -31,7 +31,7 @@ struct Writer {
     [[nodiscard]] platform::CellValue value(CellPosition cell) const {
         return place.sheet.read({base + cell.row, cell.column});
     }
-    [[nodiscard]] double number(CellPosition cell) const { return platform::number_in(value(cell)); }
+    [[nodiscard]] double number(CellPosition cell) const { return platform::cell_number(value(cell)); }
 };
 
 }  // namespace

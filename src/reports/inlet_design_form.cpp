@@ -58,13 +58,13 @@ void write_flow(const Place& place) {
 
 void add_second_previous_inlet(const Place& place) {
     if (in_sump(place.inlet) && !place.text(PREINLET2).empty()) {
-        place.write(platform::text_in(place.in_column(11)) + "," + place.text(PREINLET2));
+        place.write(platform::cell_text(place.in_column(11)) + "," + place.text(PREINLET2));
     }
 }
 
 /// The inlet that takes this one's bypass: the first that names it on its left, or else on its right.
 void write_next_inlet(const Place& place) {
-    const std::string number = platform::text_in(place.in_column(1));
+    const std::string number = platform::cell_text(place.in_column(1));
     if (store::CheckInletUsage(number, "PREINLET1") || store::CheckInletUsage(number, "PREINLET2")) {
         place.write(store::session.ReferencingInletNumber);
     }
@@ -76,7 +76,8 @@ void write_gutter_width(const Place& place) {
 
 /// Gutter width times cross slope, in inches for feet; metric projects get the same factor.
 void write_gutter_drop(const Place& place) {
-    place.write(platform::number_in(place.in_column(24)) * platform::number_in(place.in_column(22)) * 12.0);
+    place.write(platform::cell_number(place.in_column(24)) * platform::cell_number(place.in_column(22)) *
+                12.0);
 }
 
 /// The larger spread; that at the opening too where one of them is no number, as on grade.
@@ -100,7 +101,7 @@ void write_runoff(const Place& place) {
 
 void add_runoff_of_right_side(const Place& place) {
     if (in_sump(place.inlet)) {
-        const double left = platform::number_in(place.in_column(43));
+        const double left = platform::cell_number(place.in_column(43));
         place.write(left + place.number(RUNOFF_AREA2) * place.number(RUNOFF_COEFF2));
     }
 }

@@ -204,8 +204,8 @@ struct Kind {
 };
 
 Kind kind_in(const platform::Sheet& sheet) {
-    const std::string type = platform::text_in(sheet.read(type_cell));
-    return {.sump = platform::text_in(sheet.read(location_cell)) == words::sump,
+    const std::string type = platform::cell_text(sheet.read(type_cell));
+    return {.sump = platform::cell_text(sheet.read(location_cell)) == words::sump,
             .ditch = type == words::ditch_inlet,
             .curb = type == words::curb_inlet,
             .grate = type == words::grate_inlet,

@@ -102,20 +102,20 @@ TEST(Sheet, ACellBeyondTheLastRowOrColumnIsAFailure) {
 }
 
 TEST(NumberInACell, NothingIsZeroAndANumericTextCounts) {
-    EXPECT_EQ(number_in(nothing), 0.0);
-    EXPECT_EQ(number_in(2.5), 2.5);
-    EXPECT_EQ(number_in("0123"s), 123.0);
-    EXPECT_EQ(number_in("1e5"s), 1e5);
-    EXPECT_THROW((void)number_in("1/2"s), Failure);
-    EXPECT_THROW((void)number_in("1e999"s), Failure);
-    EXPECT_THROW((void)number_in(Date()), Failure);
+    EXPECT_EQ(cell_number(nothing), 0.0);
+    EXPECT_EQ(cell_number(2.5), 2.5);
+    EXPECT_EQ(cell_number("0123"s), 123.0);
+    EXPECT_EQ(cell_number("1e5"s), 1e5);
+    EXPECT_THROW((void)cell_number("1/2"s), Failure);
+    EXPECT_THROW((void)cell_number("1e999"s), Failure);
+    EXPECT_THROW((void)cell_number(Date()), Failure);
 }
 
 TEST(TextInACell, ANumberHasUpTo15Digits) {
-    EXPECT_EQ(text_in(nothing), "");
-    EXPECT_EQ(text_in("a"s), "a");
-    EXPECT_EQ(text_in(1.5), "1.5");
-    EXPECT_EQ(text_in(0.1 + 0.2), "0.3");
+    EXPECT_EQ(cell_text(nothing), "");
+    EXPECT_EQ(cell_text("a"s), "a");
+    EXPECT_EQ(cell_text(1.5), "1.5");
+    EXPECT_EQ(cell_text(0.1 + 0.2), "0.3");
 }
 
 TEST(CellOrder, NumbersCompareAsNumbersAndTextsComeBehindThem) {

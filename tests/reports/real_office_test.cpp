@@ -85,7 +85,7 @@ CellValue value_at(const SheetContent& content, CellPosition cell) {
 /// Numbers and texts alike: which of both a cell holds follows from its format.
 std::string shown(const CellValue& value) {
     return std::holds_alternative<platform::Date>(value) ? platform::number_text(number_of_today)
-                                                         : platform::text_in(value);
+                                                         : platform::cell_text(value);
 }
 
 bool is_text_cell(const SheetContent& content, CellPosition cell) {
