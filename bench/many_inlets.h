@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <string>
 
-#include "editor/workspace.h"
+#include "editor/windows/workspace_menu.h"
 #include "platform/outside.h"
 #include "store/main_window.h"
 #include "store/project_life_cycle.h"

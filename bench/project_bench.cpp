@@ -5,11 +5,12 @@
 
 #include <string>
 
-#include "editor/inlet_form.h"
-#include "editor/inlet_grid.h"
-#include "editor/inlet_list.h"
-#include "editor/life_cycle.h"
-#include "editor/workspace.h"
+#include "editor/form/field_events.h"
+#include "editor/form/screen_fields.h"
+#include "editor/form/solve_command.h"
+#include "editor/records/grid_events.h"
+#include "editor/windows/inlet_list.h"
+#include "editor/windows/workspace_menu.h"
 #include "many_inlets.h"
 #include "store/windows.h"
 

@@ -8,9 +8,11 @@
 #include <QApplication>
 #include <QTableView>
 
-#include "editor/inlet_form.h"
-#include "editor/inlet_list.h"
-#include "editor/life_cycle.h"
+#include "editor/form/field_events.h"
+#include "editor/form/screen_fields.h"
+#include "editor/form/solve_command.h"
+#include "editor/windows/inlet_list.h"
+#include "editor/windows/workspace_menu.h"
 #include "many_inlets.h"
 #include "platform/files.h"
 #include "shell/binding/turn.h"

@@ -7,10 +7,13 @@
 #include <ctime>
 #include <string>
 
-#include "editor/inlet_form.h"
-#include "editor/inlet_grid.h"
-#include "editor/inlet_list.h"
-#include "editor/workspace.h"
+#include "editor/form/field_events.h"
+#include "editor/form/solve_command.h"
+#include "editor/records/grid_events.h"
+#include "editor/state/workspace.h"
+#include "editor/windows/inlet_list.h"
+#include "editor/windows/inlet_view.h"
+#include "editor/windows/workspace_menu.h"
 #include "file_in_memory.h"
 #include "platform/outside.h"
 #include "store/main_window.h"

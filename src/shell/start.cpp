@@ -8,9 +8,10 @@
 #include <QProcess>
 #include <QSettings>
 
-#include "editor/life_cycle.h"
-#include "editor/windows.h"
-#include "editor/workspace.h"
+#include "editor/records/life_cycle.h"
+#include "editor/state/windows.h"
+#include "editor/state/workspace.h"
+#include "editor/windows/workspace_menu.h"
 #include "engine/inlet_record.h"
 #include "platform/files.h"
 #include "platform/spreadsheet_office.h"

@@ -72,7 +72,7 @@ void show_details_form();
 /// row when the file has none. The identifier and the units can be entered only in a new row.
 void load_details_form();
 
-/// Opens the form for the row that exists: Cancel is on, the identifier and the units are off and grey, and the units
+/// Opens the form for the row that exists: Cancel is on, the identifier and the units are off and gray, and the units
 /// shown become those of the session.
 void lock_existing_row();
 

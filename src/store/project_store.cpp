@@ -56,6 +56,10 @@ std::array<std::string, 3> renumber_inlet(std::string_view new_number, std::stri
             update_inlets("PREINLET2", new_number, old_number)};
 }
 
+std::string not_in_project(std::string_view number) {
+    return "Inlet " + std::string(number) + " is not in this project";
+}
+
 bool CheckInletUsage(std::string_view inlet_number, std::string_view word) {
     return find_inlet_usage(inlet_number, word) == InletUsage::a_row;
 }

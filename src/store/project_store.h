@@ -39,6 +39,9 @@ inline constexpr const char* select_grid =
 [[nodiscard]] std::array<std::string, 3> renumber_inlet(std::string_view new_number,
                                                         std::string_view old_number);
 
+/// What is told of a number that no inlet has.
+[[nodiscard]] std::string not_in_project(std::string_view number);
+
 /// True when a row has `inlet_number` in the column named by `word`: "INLET_NUMBER", "PREINLET1" or "PREINLET2". Any
 /// other word finds nothing. The two previous-inlet words also set `session.ReferencingInletNumber` to the
 /// INLET_NUMBER of the first row found, "" when there is none. An empty number is no inlet's: a row that has it as its
@@ -46,9 +49,10 @@ inline constexpr const char* select_grid =
 /// On failure: a plain box with its description, and false.
 bool CheckInletUsage(std::string_view inlet_number, std::string_view word);
 
+enum class InletUsage { no_row, a_row, unread };
+
 /// The same for who must not take a file that could not be read for one without such a row: `unread`, after the box. A
 /// number that breaks the statement is nobody's that could be asked for, and reads as `no_row`.
-enum class InletUsage { no_row, a_row, unread };
 InletUsage find_inlet_usage(std::string_view inlet_number, std::string_view word);
 
 }  // namespace gullymark::store

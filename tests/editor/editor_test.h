@@ -7,6 +7,12 @@
 #include <string_view>
 #include <vector>
 
+#include "editor/form/field_events.h"
+#include "editor/form/field_keys.h"
+#include "editor/form/inlet_form.h"
+#include "editor/form/screen_fields.h"
+#include "editor/windows/toolbar.h"
+#include "editor/windows/workspace_menu.h"
 #include "platform/outside.h"
 #include "support/fresh_start.h"
 #include "support/outside_double.h"
@@ -132,5 +138,8 @@ inline Box warning(const std::string& text) {
 inline Box question(const std::string& text) {
     return {.kind = BoxKind::warning_question, .text = text};
 }
+
+/// What is told while another program keeps the file to itself.
+inline const Box locked = plain("database is locked");
 
 }  // namespace gullymark::editor

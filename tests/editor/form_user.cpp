@@ -4,6 +4,12 @@
 #include <stdexcept>
 #include <utility>
 
+#include "editor/form/field_events.h"
+#include "editor/form/field_keys.h"
+#include "editor/form/inlet_form.h"
+#include "editor/form/inlet_screen.h"
+#include "editor/form/screen_fields.h"
+
 namespace gullymark::roads {
 
 using namespace editor;  // NOLINT(google-build-using-namespace): a user of the editor

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "editor/inlet_form.h"
+#include "editor/form/screen_fields.h"
 
 /// A user of the design form without a window: what he does becomes the events that the shell would hand on. Each
 /// answers false where the form does not let it happen.

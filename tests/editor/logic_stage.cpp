@@ -6,7 +6,22 @@
 #include <stdexcept>
 #include <utility>
 
+#include "editor/form/field_events.h"
+#include "editor/form/inlet_form.h"
+#include "editor/form/inlet_screen.h"
+#include "editor/form/screen_fields.h"
 #include "editor/form_user.h"
+#include "editor/records/grid_events.h"
+#include "editor/records/life_cycle.h"
+#include "editor/records/renumber.h"
+#include "editor/state/inlet_grid.h"
+#include "editor/state/renumber_dialog.h"
+#include "editor/state/windows.h"
+#include "editor/state/workspace.h"
+#include "editor/windows/inlet_list.h"
+#include "editor/windows/inlet_view.h"
+#include "editor/windows/toolbar.h"
+#include "editor/windows/workspace_menu.h"
 #include "platform/files.h"
 #include "store/main_menu.h"
 #include "support/fresh_start.h"

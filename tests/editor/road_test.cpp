@@ -1,4 +1,8 @@
-#include "editor_test.h"
+#include "editor/editor_test.h"
+#include "editor/form/inlet_form.h"
+#include "editor/state/workspace.h"
+#include "editor/windows/toolbar.h"
+#include "editor/windows/workspace_menu.h"
 
 namespace gullymark::editor {
 namespace {

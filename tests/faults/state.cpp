@@ -6,10 +6,10 @@
 #include <stdexcept>
 #include <unordered_set>
 
-#include "editor/inlet_grid.h"
-#include "editor/inlet_list.h"
-#include "editor/inlet_view.h"
-#include "editor/workspace.h"
+#include "editor/state/inlet_grid.h"
+#include "editor/state/workspace.h"
+#include "editor/windows/inlet_list.h"
+#include "editor/windows/inlet_view.h"
 #include "faults/designer.h"
 #include "support/sqlite_file.h"
 

@@ -7,7 +7,6 @@
 #include <ctime>
 #include <map>
 
-#include "editor/workspace.h"
 #include "faults/designer.h"
 #include "support/outside_double.h"
 #include "support/sqlite_file.h"

@@ -12,7 +12,7 @@
 #include <QStackedWidget>
 #include <QTabWidget>
 
-#include "editor/screen_fields.h"
+#include "editor/form/screen_fields.h"
 #include "shell/binding/input_filter.h"
 
 namespace gullymark::roads {

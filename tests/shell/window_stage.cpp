@@ -6,7 +6,8 @@
 
 #include <QApplication>
 
-#include "editor/renumber_dialog.h"
+#include "editor/form/screen_fields.h"
+#include "editor/state/renumber_dialog.h"
 #include "shell/binding/turn.h"
 #include "window_sights.h"
 #include "window_user.h"

@@ -1,7 +1,6 @@
 // The details form on a project that could not be read when the form opened.
 
 #include "project_level.h"
-#include "store/main_menu.h"
 
 namespace gullymark::store {
 namespace {

@@ -1,7 +1,6 @@
 #include "platform/failure.h"
 #include "platform/file_dialog.h"
 #include "project_level.h"
-#include "store/main_menu.h"
 #include "support/cut_short.h"
 #include "support/failure_text.h"
 

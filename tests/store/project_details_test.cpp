@@ -4,7 +4,6 @@
 
 #include "project_level.h"
 #include "store/counties.h"
-#include "store/main_menu.h"
 
 namespace gullymark::store {
 namespace {

@@ -13,7 +13,7 @@
 #include "platform/files.h"
 #include "platform/outside.h"
 #include "platform/row_set.h"
-#include "store/main_window.h"
+#include "store/main_menu.h"
 #include "store/project_details.h"
 #include "store/project_life_cycle.h"
 #include "store/project_session.h"

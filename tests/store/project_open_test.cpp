@@ -2,7 +2,6 @@
 
 #include "platform/file_dialog.h"
 #include "project_level.h"
-#include "store/main_menu.h"
 
 namespace gullymark::store {
 namespace {

@@ -10,6 +10,8 @@
 #include <QLabel>
 #include <QMenu>
 
+#include "editor/form/inlet_screen.h"
+#include "editor/form/screen_fields.h"
 #include "engine/units.h"
 #include "shell/binding/qt_text.h"
 

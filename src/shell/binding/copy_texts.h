@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "editor/inlet_screen.h"
+#include "editor/form/inlet_screen.h"
 
 /// Copying from fields that take no focus: most of the form in "VIEW", and the results in every mode.
 namespace gullymark::shell {

@@ -2,7 +2,8 @@
 
 #include <utility>
 
-#include "editor/inlet_form.h"
+#include "editor/form/inlet_form.h"
+#include "editor/form/screen_fields.h"
 #include "engine/unit_constants.h"
 #include "shell/binding/copy_texts.h"
 #include "shell/binding/small_screen.h"

@@ -9,8 +9,9 @@
 #include <QScrollBar>
 #include <QStyle>
 
-#include "editor/inlet_grid.h"
-#include "editor/workspace.h"
+#include "editor/records/grid_events.h"
+#include "editor/state/inlet_grid.h"
+#include "editor/state/workspace.h"
 #include "shell/binding/rows_model.h"
 #include "shell/binding/turn.h"
 

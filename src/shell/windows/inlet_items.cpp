@@ -1,7 +1,11 @@
 #include "shell/windows/inlet_items.h"
 
-#include "editor/inlet_form.h"
-#include "editor/inlet_view.h"
+#include "editor/form/field_events.h"
+#include "editor/form/field_keys.h"
+#include "editor/form/inlet_form.h"
+#include "editor/form/inlet_screen.h"
+#include "editor/form/screen_fields.h"
+#include "editor/windows/inlet_view.h"
 #include "engine/units.h"
 #include "shell/binding/qt_text.h"
 

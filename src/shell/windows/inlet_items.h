@@ -2,7 +2,6 @@
 
 #include <vector>
 
-#include "editor/inlet_screen.h"
 #include "shell/binding/screen_item.h"
 
 /// The fields of the inlet design form and of the record view as the binder takes them.

@@ -4,7 +4,8 @@
 #include <QEvent>
 #include <QHeaderView>
 
-#include "editor/inlet_list.h"
+#include "editor/windows/inlet_list.h"
+#include "editor/windows/inlet_view.h"
 #include "shell/binding/menus.h"
 #include "shell/binding/qt_text.h"
 #include "shell/binding/rows_model.h"

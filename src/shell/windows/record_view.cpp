@@ -3,7 +3,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 
-#include "editor/inlet_view.h"
+#include "editor/windows/inlet_view.h"
 #include "shell/binding/binder.h"
 #include "shell/binding/copy_texts.h"
 #include "shell/binding/qt_text.h"

@@ -1,6 +1,7 @@
 #include "shell/windows/renumber_view.h"
 
-#include "editor/renumber_dialog.h"
+#include "editor/records/renumber.h"
+#include "editor/state/renumber_dialog.h"
 #include "shell/binding/input_filter.h"
 #include "shell/binding/qt_text.h"
 #include "shell/binding/turn.h"

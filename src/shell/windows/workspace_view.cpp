@@ -2,7 +2,9 @@
 
 #include <QCloseEvent>
 
-#include "editor/workspace.h"
+#include "editor/state/workspace.h"
+#include "editor/windows/toolbar.h"
+#include "editor/windows/workspace_menu.h"
 #include "shell/binding/menus.h"
 #include "shell/binding/qt_text.h"
 #include "shell/binding/tool_icon.h"
@@ -46,8 +48,8 @@ void WorkspaceView::build_toolbar() {
                 [index = button.index] { handle([index] { editor::Toolbar1_ButtonClick(index); }); });
         buttons_.at(static_cast<std::size_t>(button.index)) = action;
     }
-    buttons_.at(10)->setShortcut(Qt::Key_F9);
-    buttons_.at(10)->setToolTip("Solve (F9)");
+    buttons_.at(editor::solve_button)->setShortcut(Qt::Key_F9);
+    buttons_.at(editor::solve_button)->setToolTip("Solve (F9)");
 }
 
 void WorkspaceView::show_state() {

@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QMainWindow>
 
+#include "editor/state/workspace.h"
 #include "shell/windows/status_panels.h"
 
 namespace Ui {
@@ -33,7 +34,7 @@ class WorkspaceView : public QMainWindow {
     std::unique_ptr<Ui::MDIInlet> ui_;
     std::unique_ptr<StatusPanels> screenmode_;
     std::unique_ptr<StatusPanels> status_;
-    std::array<QAction*, 17> buttons_{};  // by index from 1
+    std::array<QAction*, editor::toolbar_size> buttons_{};  // by index from 1
 };
 
 }  // namespace gullymark::shell

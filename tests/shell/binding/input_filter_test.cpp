@@ -5,7 +5,8 @@
 #include <QDropEvent>
 #include <QMimeData>
 
-#include "editor/inlet_form.h"
+#include "editor/form/field_keys.h"
+#include "editor/form/screen_fields.h"
 #include "platform/outside.h"
 #include "small_form.h"
 

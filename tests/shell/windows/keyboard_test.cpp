@@ -9,7 +9,8 @@
 #include <QComboBox>
 #include <QTabBar>
 
-#include "editor/inlet_form.h"
+#include "editor/form/inlet_form.h"
+#include "editor/form/screen_fields.h"
 #include "shell/new_road.h"
 
 namespace gullymark::shell {

@@ -7,7 +7,7 @@
 #include <QTabWidget>
 #include <QTableView>
 
-#include "editor/screen_fields.h"
+#include "editor/form/screen_fields.h"
 #include "engine/inlet_record.h"
 #include "shell/new_road.h"
 

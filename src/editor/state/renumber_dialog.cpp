@@ -1,0 +1,7 @@
+#include "editor/state/renumber_dialog.h"
+
+namespace gullymark::editor {
+
+RenumberDialog frminletmodify;
+
+}  // namespace gullymark::editor
