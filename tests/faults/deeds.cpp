@@ -1,6 +1,7 @@
 #include "faults/deeds.h"
 
 #include <filesystem>
+#include <fstream>
 
 #include "faults/rehearsal.h"
 #include "faults/statements.h"
@@ -101,7 +102,11 @@ std::vector<Deed> deeds_of_all_kinds(const Site& site) {
     deeds.push_back({"previous inlet", road, name_previous});
     deeds.push_back({"report", road, report});
     deeds.push_back({"design form", road, design_form});
-    deeds.push_back({"report over an old one", road, report, false, road});
+    const auto old_report = site.path("old_report.xls");
+    std::ofstream(old_report, std::ios::binary)
+        << bytes_of(site.program() + "/INLET_REPORTAL.xlr") << "of another inlet";
+    deeds.push_back({"report over an old one", road, report, false, old_report});
+    deeds.push_back({"report over a project", road, report, false, road});
     return deeds;
 }
 
