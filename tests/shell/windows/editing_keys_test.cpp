@@ -30,7 +30,7 @@ struct EditRow {
 };
 
 /// Letters stand for the digits in fields that take any text: the same rows serve both.
-const std::vector<EditRow> rows{
+const std::vector<EditRow> edit_rows{
     {"Delete", {{Qt::Key_Home, plain}, {Qt::Key_Delete, plain}}, "234"},
     {"Delete on the keypad", {{Qt::Key_Home, keypad}, {Qt::Key_Delete, keypad}}, "234"},
     {"Delete of the marked text", {{Qt::Key_A, ctrl}, {Qt::Key_Delete, plain}}, ""},
@@ -61,7 +61,7 @@ const std::vector<EditRow> rows{
 void expect_every_key_works(QMainWindow& window, const char* name) {
     auto& field = *window.findChild<QWidget*>(name);
     QLineEdit& text = *line_of(field);
-    for (const auto& row : rows) {
+    for (const auto& row : edit_rows) {
         field.setFocus();
         settle();
         ASSERT_TRUE(field.hasFocus()) << name;
