@@ -4,7 +4,7 @@ add_library(gullymark_options INTERFACE)
 target_compile_options(gullymark_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
   -Wold-style-cast -Woverloaded-virtual -Wnull-dereference -Wdouble-promotion -Wformat=2 -Werror
-  # A designated initialiser leaves the members it does not name at their defaults, on purpose.
+  # A designated initializer leaves the members it does not name at their defaults, on purpose.
   -Wno-missing-field-initializers
   # Results are compared digit by digit with hand checks: no fused multiply-add, on any processor.
   -ffp-contract=off)

@@ -18,7 +18,7 @@ need() {
   fi
 }
 
-# A viewer draws no SVG. Few colours and no date keep a picture small and the same.
+# A viewer draws no SVG. Few colors and no date keep a picture small and the same.
 draw_pictures() {
   need rsvg-convert librsvg2-bin
   need convert-im6.q16 imagemagick

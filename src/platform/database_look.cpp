@@ -153,19 +153,19 @@ void check_writable(const std::filesystem::path& path) {
 }
 
 /// A failure about what stands beside the project under the name with that ending.
-Failure about_neighbour(const std::string& path, const std::string& ending, const std::string& what) {
+Failure about_neighbor(const std::string& path, const std::string& ending, const std::string& what) {
     return Failure(what + ": " + std::filesystem::path(path + ending).filename().string());
 }
 
 /// The size of what stands there; nothing where nothing does. No journal is a link, a pipe or a folder, or has a second
 /// name under which it is a file of its own.
-std::optional<std::uint64_t> size_of_neighbour(const std::string& path, const std::string& ending) {
+std::optional<std::uint64_t> size_of_neighbor(const std::string& path, const std::string& ending) {
     struct stat status {};
     if (lstat((path + ending).c_str(), &status) != 0) {
         return std::nullopt;
     }
     if (!S_ISREG(status.st_mode) || status.st_nlink != 1) {
-        throw about_neighbour(path, ending, "what stands beside the file is no journal of it");
+        throw about_neighbor(path, ending, "what stands beside the file is no journal of it");
     }
     return static_cast<std::uint64_t>(status.st_size);
 }
@@ -240,39 +240,39 @@ bool is_mark_or_start_of_one(std::string_view bytes) {
 
 /// True when the engine will roll back the journal: it puts the file's pages as they were before the save in their place.
 bool has_hot_journal(const std::string& path, const File& file, std::string_view header) {
-    if (size_of_neighbour(path, journal_ending).value_or(0) == 0) {
+    if (size_of_neighbor(path, journal_ending).value_or(0) == 0) {
         return false;
     }
     const File journal(path + journal_ending);
     if (names_another_file(journal)) {
-        throw about_neighbour(path, journal_ending,
-                              "the journal beside the file names another file to delete");
+        throw about_neighbor(path, journal_ending,
+                             "the journal beside the file names another file to delete");
     }
     const std::string mark = journal.read(0, journal_mark.size());
     if (mark.empty() || mark.front() == '\0') {
         return false;
     }
     if (!is_mark_or_start_of_one(mark)) {
-        throw about_neighbour(path, journal_ending, "what stands beside the file is no journal of it");
+        throw about_neighbor(path, journal_ending, "what stands beside the file is no journal of it");
     }
     if (!fits(journal, read_header(journal), header)) {
-        throw about_neighbour(path, journal_ending, "the journal beside the file belongs to another file");
+        throw about_neighbor(path, journal_ending, "the journal beside the file belongs to another file");
     }
     return !file.is_being_written();
 }
 
 /// A log is worked into the file whatever the file's own header says.
 void check_log(const std::string& path, std::string_view header) {
-    const auto log_size = size_of_neighbour(path, "-wal");
+    const auto log_size = size_of_neighbor(path, "-wal");
     if (is_in_write_ahead_mode(header)) {
-        static_cast<void>(size_of_neighbour(path, "-shm"));
+        static_cast<void>(size_of_neighbor(path, "-shm"));
         constexpr std::uint32_t log_mark = 0x377f0682;  // or with its last bit set
         if (log_size.value_or(0) > 0 &&
             (number_at(File(path + "-wal").read(0, 4), 0) | 1U) != (log_mark | 1U)) {
-            throw about_neighbour(path, "-wal", "what stands beside the file is no log of it");
+            throw about_neighbor(path, "-wal", "what stands beside the file is no log of it");
         }
     } else if (log_size) {
-        throw about_neighbour(path, "-wal", "what stands beside the file is no log of it");
+        throw about_neighbor(path, "-wal", "what stands beside the file is no log of it");
     }
 }
 

@@ -11,7 +11,7 @@ struct FileDialog {
     std::string initial_folder;
     std::string title;
     bool must_exist = false;  // counts for opening alone
-    /// A cancelled dialog is then a Failure; otherwise it leaves `file_name` as it was.
+    /// A canceled dialog is then a Failure; otherwise it leaves `file_name` as it was.
     bool cancel_is_error = false;
 
     /// Shows the dialog for a file to open, and waits. Afterwards `file_name` is the full path chosen and the current

@@ -39,7 +39,7 @@ struct FileDialogRequest {
 struct Outside {
     /// Shows a modal box and waits. Closing a question without a choice is "no".
     std::function<Answer(const Box&)> show_box;
-    /// Shows a modal file dialog and waits; the full path chosen, nothing when it was cancelled.
+    /// Shows a modal file dialog and waits; the full path chosen, nothing when it was canceled.
     /// It asks no question about overwriting: each flow asks its own.
     std::function<std::optional<std::string>(const FileDialogRequest&)> choose_file;
     /// Opens a help file in the desktop's viewer. No report of success.

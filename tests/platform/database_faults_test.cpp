@@ -235,7 +235,7 @@ TEST_F(DatabaseFaultsTest, ASaveWhileAnotherConnectionWritesIsAFailureAndCanBeRe
     EXPECT_EQ(run_sql(path, "SELECT INLET_NUMBER FROM INLET"), "2");
 }
 
-TEST_F(DatabaseFaultsTest, ANeighbourMaySaveWhileARowSetIsOpen) {
+TEST_F(DatabaseFaultsTest, ANeighborMaySaveWhileARowSetIsOpen) {
     make_project(3);
     Connection connection;
     connection.open(path);

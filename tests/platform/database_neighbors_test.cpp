@@ -50,12 +50,12 @@ std::string super_journal_record(const std::string& name) {
            four_bytes(sum) + journal_start;
 }
 
-struct NeighboursTest : testing::Test {
+struct NeighborsTest : testing::Test {
     TempFolder folder;
     std::string path = folder.path("road.gmk");
     std::string journal = path + "-journal";
 
-    NeighboursTest() {
+    NeighborsTest() {
         run_sql(path, small_project);
         run_sql(path, "INSERT INTO INLET (INLET_NUMBER, STATION) VALUES ('1', 'whole'), ('2', 'whole')");
     }
@@ -86,7 +86,7 @@ struct NeighboursTest : testing::Test {
     }
 };
 
-TEST_F(NeighboursTest, AJournalThatNamesAnotherFileDeletesNothing) {
+TEST_F(NeighborsTest, AJournalThatNamesAnotherFileDeletesNothing) {
     cut_a_save_short(path);
     write_file(folder.path("other.txt"), other_file);
     for (const std::string& name : {folder.path("other.txt"), folder.path("missing"), std::string("x")}) {
@@ -100,7 +100,7 @@ TEST_F(NeighboursTest, AJournalThatNamesAnotherFileDeletesNothing) {
     EXPECT_EQ(run_sql(path, "SELECT DISTINCT STATION FROM INLET"), "whole");
 }
 
-TEST_F(NeighboursTest, AJournalThatNothingButNamesAnotherFileDeletesNothing) {
+TEST_F(NeighborsTest, AJournalThatNothingButNamesAnotherFileDeletesNothing) {
     write_file(folder.path("other.txt"), other_file);
     const std::string header =
         journal_start + four_bytes(0) + four_bytes(0) + four_bytes(1) + four_bytes(512) + four_bytes(4096);
@@ -109,7 +109,7 @@ TEST_F(NeighboursTest, AJournalThatNothingButNamesAnotherFileDeletesNothing) {
     expect_refused_untouched("the journal beside the file names another file to delete: road.gmk-journal");
 }
 
-TEST_F(NeighboursTest, ASuperJournalThatComesAfterTheLookIsNotOpened) {
+TEST_F(NeighborsTest, ASuperJournalThatComesAfterTheLookIsNotOpened) {
     Connection connection;
     connection.open(path);
     cut_a_save_short(path);
@@ -120,7 +120,7 @@ TEST_F(NeighboursTest, ASuperJournalThatComesAfterTheLookIsNotOpened) {
     EXPECT_TRUE(std::filesystem::exists(folder.path("other.txt")));
 }
 
-TEST_F(NeighboursTest, WhatIsNoJournalIsNotTakenForOne) {
+TEST_F(NeighborsTest, WhatIsNoJournalIsNotTakenForOne) {
     const std::string refusal = "what stands beside the file is no journal of it: road.gmk-journal";
     write_file(journal, "notes on the journal of this road\n");
     expect_refused_untouched(refusal);
@@ -143,12 +143,12 @@ TEST_F(NeighboursTest, WhatIsNoJournalIsNotTakenForOne) {
     expect_refused_untouched(refusal);
 }
 
-TEST_F(NeighboursTest, APipeInTheJournalsPlaceIsNotWaitedFor) {
+TEST_F(NeighborsTest, APipeInTheJournalsPlaceIsNotWaitedFor) {
     ASSERT_EQ(mkfifo(journal.c_str(), 0666), 0);
     expect_refused_untouched("what stands beside the file is no journal of it: road.gmk-journal");
 }
 
-TEST_F(NeighboursTest, APipeThatComesInTheJournalsPlaceLaterFailsTheSaveAndIsNotWaitedFor) {
+TEST_F(NeighborsTest, APipeThatComesInTheJournalsPlaceLaterFailsTheSaveAndIsNotWaitedFor) {
     Connection connection;
     connection.open(path);
     ASSERT_EQ(mkfifo(journal.c_str(), 0666), 0);
@@ -163,7 +163,7 @@ TEST_F(NeighboursTest, APipeThatComesInTheJournalsPlaceLaterFailsTheSaveAndIsNot
     EXPECT_EQ(run_sql(path, "SELECT DISTINCT OFFSET FROM INLET"), "5");
 }
 
-TEST_F(NeighboursTest, AProjectThatIsAPipeOrADeviceIsNotOpened) {
+TEST_F(NeighborsTest, AProjectThatIsAPipeOrADeviceIsNotOpened) {
     std::filesystem::remove(path);
     ASSERT_EQ(mkfifo(path.c_str(), 0666), 0);
     expect_refused_untouched("unable to open database file: it is not an ordinary file");
@@ -172,7 +172,7 @@ TEST_F(NeighboursTest, AProjectThatIsAPipeOrADeviceIsNotOpened) {
     expect_refused_untouched("unable to open database file: it is not an ordinary file");
 }
 
-TEST_F(NeighboursTest, ASaveThatWasCutShortIsUndoneAlsoThroughALink) {
+TEST_F(NeighborsTest, ASaveThatWasCutShortIsUndoneAlsoThroughALink) {
     cut_a_save_short(path);
     ASSERT_TRUE(std::filesystem::exists(journal));
     std::filesystem::create_symlink(path, folder.path("link.gmk"));
@@ -184,19 +184,19 @@ TEST_F(NeighboursTest, ASaveThatWasCutShortIsUndoneAlsoThroughALink) {
     EXPECT_FALSE(std::filesystem::exists(journal));
 }
 
-TEST_F(NeighboursTest, AnotherProgramsFileWithAHotJournalStaysAsItIs) {
+TEST_F(NeighborsTest, AnotherProgramsFileWithAHotJournalStaysAsItIs) {
     run_sql(path, "PRAGMA application_id = 7");
     cut_a_save_short(path);
     expect_refused_untouched("this is not a Gullymark project file");
 }
 
-TEST_F(NeighboursTest, AProjectOfWhichASchemaIsRefusedStaysAsItIsWithItsHotJournal) {
+TEST_F(NeighborsTest, AProjectOfWhichASchemaIsRefusedStaysAsItIsWithItsHotJournal) {
     run_sql(path, "CREATE VIEW V AS SELECT 1");
     cut_a_save_short(path);
     expect_refused_untouched("the file holds what no project has, the view V");
 }
 
-TEST_F(NeighboursTest, AnEmptyFileKeepsTheJournalBesideIt) {
+TEST_F(NeighborsTest, AnEmptyFileKeepsTheJournalBesideIt) {
     cut_a_save_short(path);
     write_file(path, "");
     expect_refused_untouched("this is not a Gullymark project file");
@@ -204,7 +204,7 @@ TEST_F(NeighboursTest, AnEmptyFileKeepsTheJournalBesideIt) {
     expect_refused_untouched("file is not a database");
 }
 
-TEST_F(NeighboursTest, TheJournalOfALaterStateIsNotWorkedIntoAnOlderCopy) {
+TEST_F(NeighborsTest, TheJournalOfALaterStateIsNotWorkedIntoAnOlderCopy) {
     const std::string copy = read_file(path);
     run_sql(path, "UPDATE INLET SET STATION = 'later'");
     run_sql(path, "UPDATE INLET SET STATION = 'later still'");
@@ -214,7 +214,7 @@ TEST_F(NeighboursTest, TheJournalOfALaterStateIsNotWorkedIntoAnOlderCopy) {
     expect_refused_untouched("the journal beside the file belongs to another file: road.gmk-journal");
 }
 
-TEST_F(NeighboursTest, TheJournalOfAFileWithAsManySavesIsToldByItsHeader) {
+TEST_F(NeighborsTest, TheJournalOfAFileWithAsManySavesIsToldByItsHeader) {
     const std::string other = folder.path("other.gmk");
     run_sql(other,
             "PRAGMA application_id = 1196247857; CREATE TABLE INLET (INLET_NUMBER TEXT, STATION TEXT);"
@@ -224,7 +224,7 @@ TEST_F(NeighboursTest, TheJournalOfAFileWithAsManySavesIsToldByItsHeader) {
     expect_refused_untouched("the journal beside the file belongs to another file: road.gmk-journal");
 }
 
-TEST_F(NeighboursTest, AJournalThatWouldDamageTheFileIsNotWorkedIntoIt) {
+TEST_F(NeighborsTest, AJournalThatWouldDamageTheFileIsNotWorkedIntoIt) {
     // One save less than the project, so that only what comes out tells the two apart.
     const std::string other = folder.path("other.gmk");
     run_sql(other,
@@ -237,7 +237,7 @@ TEST_F(NeighboursTest, AJournalThatWouldDamageTheFileIsNotWorkedIntoIt) {
     expect_refused_untouched("the journal beside the file belongs to another file: it would damage this one");
 }
 
-TEST_F(NeighboursTest, AnEmptyJournalAndAZeroedOneAreNoHindrance) {
+TEST_F(NeighborsTest, AnEmptyJournalAndAZeroedOneAreNoHindrance) {
     write_file(journal, "");
     EXPECT_EQ(open_failure(), "(no failure)");
     write_file(journal, std::string(512, '\0'));
@@ -248,7 +248,7 @@ TEST_F(NeighboursTest, AnEmptyJournalAndAZeroedOneAreNoHindrance) {
     EXPECT_FALSE(std::filesystem::exists(journal));
 }
 
-TEST_F(NeighboursTest, AJournalWhoseMarkWasHalfStoredIsNoHindrance) {
+TEST_F(NeighborsTest, AJournalWhoseMarkWasHalfStoredIsNoHindrance) {
     const std::string mark = journal_start;
     const std::string behind =
         four_bytes(0) + four_bytes(7) + four_bytes(3) + four_bytes(512) + four_bytes(4096);
@@ -261,14 +261,14 @@ TEST_F(NeighboursTest, AJournalWhoseMarkWasHalfStoredIsNoHindrance) {
     }
 }
 
-TEST_F(NeighboursTest, AJournalThatTellsOfAnEndlessFileIsRefused) {
+TEST_F(NeighborsTest, AJournalThatTellsOfAnEndlessFileIsRefused) {
     const std::string header = journal_start + four_bytes(1) + four_bytes(0) + four_bytes(0xffffffff) +
                                four_bytes(512) + four_bytes(65536);
     write_file(journal, header + std::string(512 - header.size(), '\0') + std::string(70000, '\1'));
     expect_refused_untouched("the journal beside the file belongs to another file: road.gmk-journal");
 }
 
-TEST_F(NeighboursTest, ALogBesideAFileThatKeepsNoneIsNotWorkedIntoIt) {
+TEST_F(NeighborsTest, ALogBesideAFileThatKeepsNoneIsNotWorkedIntoIt) {
     const std::string other = folder.path("other.gmk");
     run_sql(other, small_project);
     sqlite3* open_elsewhere = nullptr;
@@ -280,7 +280,7 @@ TEST_F(NeighboursTest, ALogBesideAFileThatKeepsNoneIsNotWorkedIntoIt) {
     expect_refused_untouched("what stands beside the file is no log of it: road.gmk-wal");
 }
 
-TEST_F(NeighboursTest, AFileInWriteAheadModeTakesItsLogAndBecomesOneFile) {
+TEST_F(NeighborsTest, AFileInWriteAheadModeTakesItsLogAndBecomesOneFile) {
     ChildProcess other([&] {
         sqlite3* file = nullptr;
         sqlite3_open(path.c_str(), &file);
@@ -295,7 +295,7 @@ TEST_F(NeighboursTest, AFileInWriteAheadModeTakesItsLogAndBecomesOneFile) {
     EXPECT_EQ(run_sql(path, "SELECT DISTINCT STATION FROM INLET"), "in the log");
 }
 
-TEST_F(NeighboursTest, AnotherProgramsFileInWriteAheadModeKeepsItsLog) {
+TEST_F(NeighborsTest, AnotherProgramsFileInWriteAheadModeKeepsItsLog) {
     ChildProcess other([&] {
         sqlite3* file = nullptr;
         sqlite3_open(path.c_str(), &file);
@@ -306,7 +306,7 @@ TEST_F(NeighboursTest, AnotherProgramsFileInWriteAheadModeKeepsItsLog) {
     expect_refused_untouched("this is not a Gullymark project file");
 }
 
-TEST_F(NeighboursTest, ALogThatIsNoneIsRefused) {
+TEST_F(NeighborsTest, ALogThatIsNoneIsRefused) {
     run_sql(path, "PRAGMA journal_mode = WAL");
     write_file(path + "-wal", "notes");
     expect_refused_untouched("what stands beside the file is no log of it: road.gmk-wal");
@@ -315,7 +315,7 @@ TEST_F(NeighboursTest, ALogThatIsNoneIsRefused) {
     expect_refused_untouched("what stands beside the file is no journal of it: road.gmk-shm");
 }
 
-TEST_F(NeighboursTest, ANameThatLeavesNoRoomForTheJournalsIsToldAtTheOpen) {
+TEST_F(NeighborsTest, ANameThatLeavesNoRoomForTheJournalsIsToldAtTheOpen) {
     const std::string content = read_file(path);
     for (const std::size_t length : {247U, 248U, 255U}) {
         path = folder.path(std::string(length - 4, 'r') + ".gmk");
@@ -329,7 +329,7 @@ TEST_F(NeighboursTest, ANameThatLeavesNoRoomForTheJournalsIsToldAtTheOpen) {
     }
 }
 
-TEST_F(NeighboursTest, APathThatLeavesNoRoomForTheJournalsIsToldAtTheOpen) {
+TEST_F(NeighborsTest, APathThatLeavesNoRoomForTheJournalsIsToldAtTheOpen) {
     std::string deep = folder.path();
     while (deep.size() < 480) {
         deep += "/" + std::string(std::min<std::size_t>(200, 490 - deep.size()), 'f');
@@ -344,7 +344,7 @@ TEST_F(NeighboursTest, APathThatLeavesNoRoomForTheJournalsIsToldAtTheOpen) {
     }
 }
 
-TEST_F(NeighboursTest, AFileOfTheOldEngineIsNamedAsThat) {
+TEST_F(NeighborsTest, AFileOfTheOldEngineIsNamedAsThat) {
     for (const char* words : {"Standard Jet DB", "Standard ACE DB"}) {
         write_file(path, std::string("\0\1\0\0", 4) + words + std::string(4000, '\0'));
         expect_refused_untouched("this is a file of the old database engine, which this program cannot read");

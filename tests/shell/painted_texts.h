@@ -13,7 +13,7 @@ namespace gullymark::testing_support {
 struct PaintedText {
     QString text;
     QRect where;  // in the window
-    QColor colour;
+    QColor color;
 };
 
 /// Every text that a window paints, whatever widget or style paints it.

@@ -29,7 +29,7 @@ inline void PrintTo(const Box& box, std::ostream* out) {
 namespace gullymark::testing_support {
 
 /// Stands in for user and desktop while it lives: records what was asked and answers from its queues.
-/// A question with no answer queued is answered No, a file dialog with no choice queued is cancelled.
+/// A question with no answer queued is answered No, a file dialog with no choice queued is canceled.
 struct OutsideDouble {
     std::vector<platform::Box> boxes;
     std::deque<platform::Answer> answers;

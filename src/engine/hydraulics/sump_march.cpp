@@ -69,7 +69,7 @@ class Sump {
 ///
 /// Within one power of two the rounded sum d + 0.001 lies a constant number of units in the last place above
 /// d. Where 0.001 is an odd number of half units, from 1/128 to 1/64, the sums are rounded to the even
-/// neighbour, and from the second on that step is constant as well; the march enters there at an even depth.
+/// neighbor, and from the second on that step is constant as well; the march enters there at an even depth.
 struct Stretch {
     double first = 0.0;
     double step = 0.0;

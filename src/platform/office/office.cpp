@@ -2,7 +2,6 @@
 
 #include <sys/wait.h>
 
-#include <algorithm>
 #include <chrono>
 #include <com/sun/star/awt/XWindow2.hpp>
 #include <com/sun/star/bridge/UnoUrlResolver.hpp>

@@ -14,7 +14,6 @@
 #include <functional>
 #include <random>
 #include <sstream>
-#include <string_view>
 
 namespace gullymark::office {
 namespace {

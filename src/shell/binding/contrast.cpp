@@ -6,21 +6,20 @@
 namespace gullymark::shell {
 namespace {
 
-/// The light of one channel, of the sRGB colour space.
+/// The light of one channel, of the sRGB color space.
 double linear(float channel) {
     const auto part = static_cast<double>(channel);
     return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
 }
 
-double luminance(const QColor& colour) {
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
+double luminance(const QColor& color) {
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
-double least_contrast(const QColor& colour, std::span<const QColor> grounds) {
+double least_contrast(const QColor& color, std::span<const QColor> grounds) {
     double least = 21;
     for (const QColor& ground : grounds) {
-        least = std::min(least, contrast(colour, ground));
+        least = std::min(least, contrast(color, ground));
     }
     return least;
 }
@@ -40,13 +39,13 @@ QColor between(const QColor& from, const QColor& to, double part) {
                             mix(from.blueF(), to.blueF()));
 }
 
-QColor readable(const QColor& colour, std::span<const QColor> grounds, double wanted) {
+QColor readable(const QColor& color, std::span<const QColor> grounds, double wanted) {
     constexpr int steps = 20;
     const QColor black(Qt::black);
     const QColor white(Qt::white);
     const QColor& away = least_contrast(black, grounds) > least_contrast(white, grounds) ? black : white;
     for (int step = 0; step < steps; ++step) {
-        const QColor moved = between(colour, away, static_cast<double>(step) / steps);
+        const QColor moved = between(color, away, static_cast<double>(step) / steps);
         if (least_contrast(moved, grounds) >= wanted) {
             return moved;
         }

@@ -33,35 +33,35 @@ std::array<QColor, 4> grounds_of(const QPalette& palette, QPalette::ColorGroup g
             palette.color(group, QPalette::Button), palette.color(group, QPalette::AlternateBase)};
 }
 
-/// A colour that this program gave in place of the desktop's.
+/// A color that this program gave in place of the desktop's.
 struct Given {
     QPalette::ColorGroup group;
     QPalette::ColorRole role;
-    QColor colour;
+    QColor color;
 };
 
 std::vector<Given> given;
 
-void put(QPalette& palette, QPalette::ColorGroup group, QPalette::ColorRole role, const QColor& colour) {
-    if (palette.color(group, role) != colour) {
-        palette.setColor(group, role, colour);
-        given.push_back({group, role, colour});
+void put(QPalette& palette, QPalette::ColorGroup group, QPalette::ColorRole role, const QColor& color) {
+    if (palette.color(group, role) != color) {
+        palette.setColor(group, role, color);
+        given.push_back({group, role, color});
     }
 }
 
-QPalette::ResolveMask mark_of(const Given& colour) {
+QPalette::ResolveMask mark_of(const Given& color) {
     QPalette alone;
     alone.setResolveMask(0);
-    alone.setColor(colour.group, colour.role, colour.colour);
+    alone.setColor(color.group, color.role, color.color);
     return alone.resolveMask();
 }
 
-/// The palette without what this program gave: those colours come from the desktop again.
+/// The palette without what this program gave: those colors come from the desktop again.
 QPalette desktops_palette() {
     QPalette palette = QApplication::palette();
-    for (const Given& colour : std::exchange(given, {})) {
-        if (palette.color(colour.group, colour.role) == colour.colour) {
-            palette.setResolveMask(palette.resolveMask() & ~mark_of(colour));
+    for (const Given& color : std::exchange(given, {})) {
+        if (palette.color(color.group, color.role) == color.color) {
+            palette.setResolveMask(palette.resolveMask() & ~mark_of(color));
         }
     }
     QApplication::setPalette(palette);

@@ -22,7 +22,7 @@ constexpr const char* drawn_fill = "#e3f0f9";
 /// The tool bar's own shades stay readable too.
 constexpr double icon_contrast_wanted = icon_contrast + 1;
 
-QByteArray in_colours_of(const QPalette& palette, QPalette::ColorGroup group, QByteArray drawing) {
+QByteArray in_colors_of(const QPalette& palette, QPalette::ColorGroup group, QByteArray drawing) {
     const std::array grounds{palette.color(group, QPalette::Window), palette.color(group, QPalette::Button)};
     const QColor text = palette.color(group, QPalette::ButtonText);
     const QColor accent = readable(QColor(drawn_accent), grounds, icon_contrast_wanted);
@@ -40,7 +40,7 @@ class ToolIcon : public QIconEngine {
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State /*state*/) override {
         const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        QSvgRenderer drawn(in_colours_of(QApplication::palette(), group, drawing_));
+        QSvgRenderer drawn(in_colors_of(QApplication::palette(), group, drawing_));
         drawn.render(painter, rect);
     }
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {

@@ -2,7 +2,6 @@
 
 #include <QCloseEvent>
 #include <QEvent>
-#include <QHeaderView>
 
 #include "editor/windows/inlet_list.h"
 #include "editor/windows/inlet_view.h"

@@ -69,7 +69,7 @@ StandardsList::StandardsList(const catalogue::Table& table, QWidget* parent)
     for (int row = 0; row < rowCount(); ++row) {
         show_row(row);
     }
-    colour_separators();
+    color_separators();
     resizeColumnsToContents();
     const int gap = 3 * fontMetrics().averageCharWidth();
     for (int column = 0; column < columnCount(); ++column) {
@@ -105,7 +105,7 @@ void StandardsList::show_row(int row) {
     setRowHeight(row, separator ? fontMetrics().height() / 3 : fontMetrics().height() + 6);
 }
 
-void StandardsList::colour_separators() {
+void StandardsList::color_separators() {
     for (int row = 0; row < rowCount(); ++row) {
         for (int column = 0; column < columnCount(); ++column) {
             if (catalogue::is_separator(table_.rows[static_cast<std::size_t>(row)])) {
@@ -118,7 +118,7 @@ void StandardsList::colour_separators() {
 void StandardsList::changeEvent(QEvent* event) {
     QTableWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) {
-        colour_separators();
+        color_separators();
     }
 }
 

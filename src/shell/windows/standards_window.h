@@ -26,7 +26,7 @@ class StandardsList : public QTableWidget {
   private:
     void show_headings();
     void show_row(int row);
-    void colour_separators();
+    void color_separators();
 
     const catalogue::Table& table_;
     int columns_width_ = 0;  // that shows every heading and text whole

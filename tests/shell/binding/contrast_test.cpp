@@ -26,13 +26,12 @@ using namespace testing_support;  // NOLINT(google-build-using-namespace): the u
 
 /// The definition of WCAG 2.1, once more.
 double measured_contrast(QRgb one, QRgb other) {
-    const auto light = [](QRgb colour) {
+    const auto light = [](QRgb color) {
         const auto part = [](int value) {
             const double v = value / 255.0;
             return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
         };
-        return 0.2126 * part(qRed(colour)) + 0.7152 * part(qGreen(colour)) + 0.0722 * part(qBlue(colour)) +
-               0.05;
+        return 0.2126 * part(qRed(color)) + 0.7152 * part(qGreen(color)) + 0.0722 * part(qBlue(color)) + 0.05;
     };
     return std::max(light(one), light(other)) / std::min(light(one), light(other));
 }
@@ -40,11 +39,11 @@ double measured_contrast(QRgb one, QRgb other) {
 TEST(Contrast, IsThatOfPublishedPairs) {
     EXPECT_NEAR(contrast(Qt::black, Qt::white), 21, 0.001);
     EXPECT_NEAR(contrast(QColor(0x76, 0x76, 0x76), Qt::white), 4.54,
-                0.005);  // the palest grey for text on white
+                0.005);  // the palest gray for text on white
     EXPECT_NEAR(contrast(QColor(0x94, 0x94, 0x94), Qt::white), 3.03, 0.005);
 }
 
-TEST(Contrast, MovesAColourOnlyAsFarAsItMust) {
+TEST(Contrast, MovesAColorOnlyAsFarAsItMust) {
     const std::array white{QColor(Qt::white)};
     const std::array black{QColor(Qt::black)};
     EXPECT_EQ(readable(QColor(Qt::darkBlue), white, 4.5), QColor(Qt::darkBlue));
@@ -77,11 +76,11 @@ QPalette palette_of(const Theme& theme) {
     return palette;
 }
 
-/// The colour that most of a part of a picture has, but for the text in it. Shades of one ground count together.
+/// The color that most of a part of a picture has, but for the text in it. Shades of one ground count together.
 QRgb ground_of(const QImage& picture, const QRect& part, QRgb text) {
     struct Shade {
         int count = 0;
-        QRgb colour = 0;
+        QRgb color = 0;
     };
     std::map<QRgb, Shade> shades;
     for (int y = part.top(); y <= part.bottom(); ++y) {
@@ -96,7 +95,7 @@ QRgb ground_of(const QImage& picture, const QRect& part, QRgb text) {
     for (const auto& [key, shade] : shades) {
         widest = shade.count > widest.count ? shade : widest;
     }
-    return widest.colour;
+    return widest.color;
 }
 
 void expect_texts_readable(const std::string& name, QWidget& window) {
@@ -107,17 +106,17 @@ void expect_texts_readable(const std::string& name, QWidget& window) {
         if (part.isEmpty()) {
             continue;
         }
-        const QRgb ground = ground_of(picture, part, text.colour.rgb());
-        EXPECT_GE(measured_contrast(text.colour.rgb(), ground), 4.5)
-            << name << ": \"" << text.text.toStdString() << "\" " << text.colour.name().toStdString()
-            << " on " << QColor(ground).name().toStdString();
+        const QRgb ground = ground_of(picture, part, text.color.rgb());
+        EXPECT_GE(measured_contrast(text.color.rgb(), ground), 4.5)
+            << name << ": \"" << text.text.toStdString() << "\" " << text.color.name().toStdString() << " on "
+            << QColor(ground).name().toStdString();
         ++texts;
     }
     EXPECT_GT(texts, 0) << name << " paints no text";
 }
 
-/// How often each opaque colour stands in a picture.
-std::map<QRgb, int> solid_colours(const QImage& icon) {
+/// How often each opaque color stands in a picture.
+std::map<QRgb, int> solid_colors(const QImage& icon) {
     std::map<QRgb, int> counts;
     for (int y = 0; y < icon.height(); ++y) {
         for (int x = 0; x < icon.width(); ++x) {
@@ -129,19 +128,19 @@ std::map<QRgb, int> solid_colours(const QImage& icon) {
     return counts;
 }
 
-/// Each solid colour of an icon of lines stands out from the ground, or is a mere tint of it.
+/// Each solid color of an icon of lines stands out from the ground, or is a mere tint of it.
 void expect_lines_seen(const std::string& name, const QImage& icon, QRgb ground) {
-    const auto colours = solid_colours(icon);
+    const auto colors = solid_colors(icon);
     int solid = 0;
     int seen = 0;
-    for (const auto& [colour, count] : colours) {
+    for (const auto& [color, count] : colors) {
         solid += count;
-        seen += measured_contrast(colour, ground) >= 3 ? count : 0;
+        seen += measured_contrast(color, ground) >= 3 ? count : 0;
     }
-    for (const auto& [colour, count] : colours) {
-        const double ratio = measured_contrast(colour, ground);
+    for (const auto& [color, count] : colors) {
+        const double ratio = measured_contrast(color, ground);
         EXPECT_TRUE(count * 20 < solid || ratio >= 3 || ratio < 1.6)
-            << name << ": " << QColor(colour).name().toStdString() << " on "
+            << name << ": " << QColor(color).name().toStdString() << " on "
             << QColor(ground).name().toStdString();
     }
     EXPECT_GT(seen * 4, solid) << name << " on " << QColor(ground).name().toStdString();
@@ -149,14 +148,14 @@ void expect_lines_seen(const std::string& name, const QImage& icon, QRgb ground)
 
 /// A picture may bring a ground of its own.
 void expect_picture_seen(const std::string& name, const QImage& picture, QRgb ground) {
-    const auto colours = solid_colours(picture);
+    const auto colors = solid_colors(picture);
     const QRgb own =
-        std::ranges::max_element(colours, {}, [](const auto& entry) { return entry.second; })->first;
+        std::ranges::max_element(colors, {}, [](const auto& entry) { return entry.second; })->first;
     int solid = 0;
     int seen = 0;
-    for (const auto& [colour, count] : colours) {
+    for (const auto& [color, count] : colors) {
         solid += count;
-        seen += measured_contrast(colour, ground) >= 3 || measured_contrast(colour, own) >= 3 ? count : 0;
+        seen += measured_contrast(color, ground) >= 3 || measured_contrast(color, own) >= 3 ? count : 0;
     }
     EXPECT_GT(seen * 10, solid) << name << " on " << QColor(ground).name().toStdString();
 }

@@ -173,10 +173,10 @@ TEST(Workspace, EveryFieldHasANameForAReaderAndATipWithItsUnit) {
         auto* widget = workspace().findChild<QWidget*>(name);
         EXPECT_FALSE(widget->toolTip().isEmpty()) << name.toStdString();
         const auto labels = workspace().findChildren<QLabel*>();
-        const bool labelled =
+        const bool labeled =
             !widget->accessibleName().isEmpty() ||
             std::ranges::any_of(labels, [&](QLabel* label) { return label->buddy() == widget; });
-        EXPECT_TRUE(labelled) << name.toStdString();
+        EXPECT_TRUE(labeled) << name.toStdString();
     }
     EXPECT_EQ(line("txtSpread").toolTip(), "Spread of water at the opening (ft)");
     road.leave();
