@@ -25,7 +25,7 @@ std::optional<std::string> choose_target(const ReportFile& report) {
         platform::tell("No File Name selected!", BoxKind::warning);
         return std::nullopt;
     }
-    if (platform::file_exists(target) && !platform::ask("File Already Exists!   Overwrite?")) {
+    if (!store::may_overwrite(target)) {
         return std::nullopt;
     }
     return target;

@@ -10,12 +10,9 @@
 
 namespace gullymark::store {
 
-using platform::BoxKind;
-
 void mnuupdateProj_Click() {
     if (session.projectName.empty()) {
-        platform::tell("No Project Found.  Please Add Project Details", BoxKind::warning,
-                       frmsoftwaremain.message_title);
+        tell_missing_details();
         platform::show_wait_pointer(false);
         session.detailsUpdateMode = false;
         show_details_form();
@@ -32,7 +29,7 @@ void mnuupdateProj_Click() {
 
 void mnuInlet_Click() {
     if (session.projectName.empty()) {
-        platform::tell("Please Select Current Working Project!", BoxKind::warning,
+        platform::tell("Please Select Current Working Project!", platform::BoxKind::warning,
                        frmsoftwaremain.message_title);
         return;
     }

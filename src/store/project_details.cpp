@@ -143,6 +143,11 @@ void save_details() {
 
 ProjectDetails frmProject;
 
+void tell_missing_details() {
+    platform::tell("No Project Found.  Please Add Project Details", BoxKind::warning,
+                   frmsoftwaremain.message_title);
+}
+
 void show_details_form() {
     load_details_form();
     frmProject.visible = true;

@@ -65,6 +65,9 @@ inline constexpr std::array<DetailsField, 8> details_fields{{
     {"units", "UNITS", "UNITS", 0, EntryKind::list, &ProjectDetails::units},
 }};
 
+/// Warns that the project has no details yet.
+void tell_missing_details();
+
 /// Shows the form, modal, loading it first if it is not loaded; returns when it was hidden or unloaded.
 void show_details_form();
 

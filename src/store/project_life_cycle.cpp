@@ -27,6 +27,14 @@ void tell_titled(const std::string& text, BoxKind kind) {
     platform::tell(text, kind, frmsoftwaremain.message_title);
 }
 
+void tell_no_file_chosen() {
+    tell_titled("No project database selected!", BoxKind::warning);
+}
+
+void show_file_name(const std::string& name) {
+    frmsoftwaremain.status_panels[0] = "Project Database - " + name;
+}
+
 /// Runs a flow; a failure anywhere in it is told and ends it.
 void run_flow(void (*flow)()) {
     try {
@@ -63,11 +71,10 @@ void create_project() {
     printDlg.show_save();
     session.projectFilePath = printDlg.file_name;
     if (session.projectFilePath.empty() || session.projectFilePath == "*.gmk") {
-        tell_titled("No project database selected!", BoxKind::warning);
+        tell_no_file_chosen();
         return;
     }
-    if (platform::file_exists(session.projectFilePath) &&
-        !platform::ask("File Already Exists!   Overwrite?")) {
+    if (!may_overwrite(session.projectFilePath)) {
         return;
     }
     platform::copy_project(template_path, session.projectFilePath);
@@ -78,7 +85,7 @@ void create_project() {
     open_database();
     show_details_form();
     platform::show_wait_pointer(false);
-    frmsoftwaremain.status_panels[0] = "Project Database - " + name;
+    show_file_name(name);
     enable_for_open_project();
 }
 
@@ -98,7 +105,7 @@ void upgrade_old_file() {
 
 void greet_project() {
     if (session.projectName.empty()) {
-        tell_titled("No Project Found.  Please Add Project Details", BoxKind::warning);
+        tell_missing_details();
         session.detailsUpdateMode = false;
         show_details_form();
     } else {
@@ -116,7 +123,7 @@ void open_project() {
     printDlg.show_open();
     session.projectFilePath = printDlg.file_name;
     if (session.projectFilePath.empty()) {
-        tell_titled("No project database selected!", BoxKind::warning);
+        tell_no_file_chosen();
         return;
     }
     const std::string name = take_chosen_folder();
@@ -128,7 +135,7 @@ void open_project() {
     upgrade_old_file();
     platform::show_wait_pointer(false);
     greet_project();
-    frmsoftwaremain.status_panels[0] = "Project Database - " + name;
+    show_file_name(name);
     frmsoftwaremain.status_panels[1] = "UNITS: " + session.projectUnits;
     enable_for_open_project();
     go_to_workspace();

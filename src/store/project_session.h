@@ -30,4 +30,7 @@ extern ProjectSession session;
 /// Where a file dialog starts: `workingDirectory`, or the program's own folder while that is empty.
 [[nodiscard]] std::string dialog_start_folder();
 
+/// True where no file has that path, or the user lets it be overwritten.
+[[nodiscard]] bool may_overwrite(const std::string& path);
+
 }  // namespace gullymark::store

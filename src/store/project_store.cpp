@@ -2,7 +2,6 @@
 
 #include "platform/failure.h"
 #include "platform/outside.h"
-#include "platform/row_set.h"
 #include "store/project_session.h"
 
 namespace gullymark::store {
@@ -54,6 +53,11 @@ std::array<std::string, 3> renumber_inlet(std::string_view new_number, std::stri
     return {update_inlets("INLET_NUMBER", new_number, old_number),
             update_inlets("PREINLET1", new_number, old_number),
             update_inlets("PREINLET2", new_number, old_number)};
+}
+
+void find_inlet(platform::RowSet& inlets, std::string_view number) {
+    inlets.move_first();
+    inlets.find("INLET_NUMBER = " + quoted(number));
 }
 
 std::string not_in_project(std::string_view number) {

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "platform/database.h"
+#include "platform/row_set.h"
 
 /// The open project file and the statements that reach it. Each statement is sent as it stands: a number between its
 /// quote marks is joined in unchanged, so one that holds a quote mark breaks the statement, and its sender tells the
@@ -38,6 +39,10 @@ inline constexpr const char* select_grid =
 /// Gives an inlet a new number, first in its own row, then in the rows that name it as a previous inlet.
 [[nodiscard]] std::array<std::string, 3> renumber_inlet(std::string_view new_number,
                                                         std::string_view old_number);
+
+/// Goes to the first of the rows, which have a column INLET_NUMBER, with that number; behind the last where none has it.
+/// The number is joined into the condition unchanged, as into a statement. Throws Failure.
+void find_inlet(platform::RowSet& inlets, std::string_view number);
 
 /// What is told of a number that no inlet has.
 [[nodiscard]] std::string not_in_project(std::string_view number);

@@ -158,8 +158,7 @@ void set_discharge_carryover(int side) {
         if (!rows.is_open()) {
             open_carryover();
         }
-        rows.move_first();
-        rows.find("INLET_NUMBER = '" + text(preinlet) + "'");
+        store::find_inlet(rows, text(preinlet));
         if (rows.at_end()) {
             throw platform::Failure(store::not_in_project(text(preinlet)));
         }

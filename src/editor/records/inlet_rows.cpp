@@ -24,8 +24,7 @@ bool shows_a_row() {
 /// Fails where no inlet has that number, and where it cannot be read.
 void show_inlet(const std::string& number) {
     auto& rows = frminletMDIC.adoInletRS;
-    rows.move_first();
-    rows.find("INLET_NUMBER = '" + number + "'");
+    store::find_inlet(rows, number);
     attach_inlet_datasource();
     if (rows.at_end()) {
         throw platform::Failure(store::not_in_project(number));

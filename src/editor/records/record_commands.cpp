@@ -11,6 +11,7 @@
 #include "editor/form/pages.h"
 #include "editor/form/status_bar.h"
 #include "editor/records/inlet_rows.h"
+#include "editor/records/next_inlet.h"
 #include "editor/records/screen_mode.h"
 #include "editor/state/inlet_grid.h"
 #include "editor/state/workspace.h"
@@ -84,17 +85,10 @@ void go_to_new_row() {
     frminletMDIC.wanted_focus = Inlet_Number;
 }
 
-/// Whether another inlet names this number as its previous inlet; `session.ReferencingInletNumber` is that one.
-InletUsage feeds_another(const std::string& number) {
-    const auto left = store::find_inlet_usage(number, "PREINLET1");
-    return left == InletUsage::no_row ? store::find_inlet_usage(number, "PREINLET2") : left;
-}
-
 void tell_inlet_downstream() {
     if (feeds_another(text(Inlet_Number)) == InletUsage::a_row) {
-        const std::string& next = store::session.ReferencingInletNumber;
-        tell("Current Inlet has Carryover Discharge to Inlet Number - " + next +
-                 "\r\nPlease review the design, solve & save the results for Inlet - " + next,
+        tell(feeds_found_inlet() + "\r\nPlease review the design, solve & save the results for Inlet - " +
+                 store::session.ReferencingInletNumber,
              BoxKind::information);
     }
 }
@@ -238,9 +232,7 @@ void current_record_delete() {
         return;  // it was told; an inlet that others may name stays
     }
     if (usage == InletUsage::a_row) {
-        tell("Current Inlet has Carryover Discharge to Inlet Number - " +
-                 store::session.ReferencingInletNumber + " - Delete Denied!",
-             BoxKind::warning);
+        tell(feeds_found_inlet() + " - Delete Denied!", BoxKind::warning);
         return;
     }
     delete_row_of_grid(frmgrid.row, number);

@@ -5,13 +5,13 @@
 #include "editor/form/carryover.h"
 #include "editor/records/grid_events.h"
 #include "editor/records/inlet_rows.h"
+#include "editor/records/next_inlet.h"
 #include "editor/state/inlet_grid.h"
 #include "editor/state/renumber_dialog.h"
 #include "editor/state/windows.h"
 #include "platform/characters.h"
 #include "platform/failure.h"
 #include "platform/outside.h"
-#include "store/project_session.h"
 #include "store/project_store.h"
 
 namespace gullymark::editor {
@@ -25,9 +25,7 @@ using store::InletUsage;
 bool user_declines(std::string_view column, InletUsage& usage) {
     usage = store::find_inlet_usage(frminletmodify.thisinletnumber.text, column);
     return usage == InletUsage::unread ||
-           (usage == InletUsage::a_row &&
-            !platform::ask("Current Inlet has Carryover Discharge to Inlet Number - " +
-                           store::session.ReferencingInletNumber + " - Modify Anyway?"));
+           (usage == InletUsage::a_row && !platform::ask(feeds_found_inlet() + " - Modify Anyway?"));
 }
 
 /// An inlet without a number is nobody's previous inlet: the empty texts of those columns stay.
