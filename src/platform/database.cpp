@@ -74,7 +74,7 @@ bool Connection::refuses_writes() const {
 
 void Connection::close() {
     if (!is_open()) {
-        throw Failure("no project file is open");
+        throw Failure(no_file_is_open);
     }
     close_handle();
 }
@@ -85,7 +85,7 @@ bool Connection::is_open() const {
 
 sqlite3* Connection::open_file() const {
     if (!is_open()) {
-        throw Failure("no project file is open");
+        throw Failure(no_file_is_open);
     }
     return handle_->file;
 }

@@ -15,6 +15,9 @@ namespace gullymark::platform {
 
 struct DatabaseHandle;
 
+/// What is told of a connection without a file.
+inline constexpr const char* no_file_is_open = "no project file is open";
+
 class Connection {
   public:
     Connection();

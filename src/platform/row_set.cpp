@@ -52,7 +52,7 @@ struct RowSet::State {
 
     [[nodiscard]] sqlite3* file() const {
         if (handle->file == nullptr) {
-            throw Failure("no project file is open");
+            throw Failure(no_file_is_open);
         }
         return handle->file;
     }
@@ -198,7 +198,7 @@ RowSet::State& RowSet::state() const {
 
 void RowSet::open(const Connection& connection, const std::string& statement) {
     if (!connection.is_open()) {
-        throw Failure("no project file is open");
+        throw Failure(no_file_is_open);
     }
     refuse_comments(statement);
     auto opened = std::make_unique<State>();

@@ -8,7 +8,7 @@
 namespace gullymark::platform {
 
 /// A meaning, not a paint: a usable field, or one that does not apply.
-enum class Colour { window, grey };
+enum class Color { window, gray };
 
 struct Field {
     std::string text;     // what a field shows; of a bound field the column's text counts instead
@@ -18,7 +18,7 @@ struct Field {
     bool locked = false;  // shows, takes the focus, but no typing
     bool visible = true;
     bool checked = false;  // of a check box or a pressed tool button
-    Colour colour = Colour::window;
+    Color color = Color::window;
 
     bool operator==(const Field&) const = default;
 };

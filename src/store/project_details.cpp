@@ -19,7 +19,7 @@ namespace gullymark::store {
 namespace {
 
 using platform::BoxKind;
-using platform::Colour;
+using platform::Color;
 using platform::Failure;
 using platform::Field;
 using platform::ignore_failure;
@@ -47,7 +47,7 @@ void set_field_text(Field& field, std::string text) {
 
 void allow_entry(Field& field, bool allowed) {
     field.enabled = allowed;
-    field.colour = allowed ? Colour::window : Colour::grey;
+    field.color = allowed ? Color::window : Color::gray;
 }
 
 void fill_lists() {

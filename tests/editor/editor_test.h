@@ -23,7 +23,7 @@ namespace gullymark::editor {
 using platform::Answer;
 using platform::Box;
 using platform::BoxKind;
-using platform::Colour;
+using platform::Color;
 using Boxes = std::vector<Box>;
 using enum FieldId;
 

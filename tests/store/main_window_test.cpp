@@ -120,9 +120,9 @@ TEST_F(MainWindowLevel, UpdateOpensTheFormOnTheRowThatExists) {
         EXPECT_EQ(frmProject.project_name.text, "Old");
         EXPECT_TRUE(frmProject.mnuprojcancel.enabled);
         EXPECT_FALSE(frmProject.project_id.enabled);
-        EXPECT_EQ(frmProject.project_id.colour, Colour::grey);
+        EXPECT_EQ(frmProject.project_id.color, Color::gray);
         EXPECT_FALSE(frmProject.units.enabled);
-        EXPECT_EQ(frmProject.units.colour, Colour::grey);
+        EXPECT_EQ(frmProject.units.color, Color::gray);
         mnuprojexit_Click();
     };
     session.projectUnits = "something else";

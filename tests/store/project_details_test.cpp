@@ -103,9 +103,9 @@ TEST_F(DetailsForm, ANewRowStartsWithStateCountyAndUnits) {
     EXPECT_FALSE(frmProject.changed);
     EXPECT_FALSE(frmProject.mnuprojcancel.enabled);
     EXPECT_TRUE(frmProject.project_id.enabled);
-    EXPECT_EQ(frmProject.project_id.colour, Colour::window);
+    EXPECT_EQ(frmProject.project_id.color, Color::window);
     EXPECT_TRUE(frmProject.units.enabled);
-    EXPECT_EQ(frmProject.units.colour, Colour::window);
+    EXPECT_EQ(frmProject.units.color, Color::window);
     EXPECT_EQ(session.productName, "GULLYMARKAL");
     EXPECT_EQ(session.projectUnits, "kept");
     EXPECT_EQ(frmsoftwaremain.status_panels[0], "Create Project");
@@ -119,9 +119,9 @@ TEST_F(DetailsForm, ARowThatExistsKeepsItsIdentifierAndUnits) {
     EXPECT_FALSE(frmProject.changed);
     EXPECT_TRUE(frmProject.mnuprojcancel.enabled);
     EXPECT_FALSE(frmProject.project_id.enabled);
-    EXPECT_EQ(frmProject.project_id.colour, Colour::grey);
+    EXPECT_EQ(frmProject.project_id.color, Color::gray);
     EXPECT_FALSE(frmProject.units.enabled);
-    EXPECT_EQ(frmProject.units.colour, Colour::grey);
+    EXPECT_EQ(frmProject.units.color, Color::gray);
     EXPECT_EQ(session.projectUnits, "ENGLISH");
 }
 

@@ -27,7 +27,7 @@ namespace gullymark::store {
 using platform::Answer;
 using platform::Box;
 using platform::BoxKind;
-using platform::Colour;
+using platform::Color;
 
 using Steps = std::vector<std::string>;
 using Boxes = std::vector<Box>;

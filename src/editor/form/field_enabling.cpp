@@ -9,7 +9,7 @@
 namespace gullymark::editor {
 namespace {
 
-using platform::Colour;
+using platform::Color;
 using enum FieldId;
 using namespace engine::words;
 
@@ -98,7 +98,7 @@ constexpr auto inlet_data_fields = std::to_array<FieldId>({
 void offer_angle_by_throat() {
     auto& angle = field(txtAngle);
     const bool inclined = text(cboThroat) == inclined_throat;
-    angle.colour = inclined ? Colour::window : Colour::grey;
+    angle.color = inclined ? Color::window : Color::gray;
     angle.locked = !inclined;
     if (inclined) {
         angle.enabled = true;
@@ -124,7 +124,7 @@ void offer_fields(InletKind kind) {
         if (of_kind(row) == T) {
             offer_angle_by_throat();
         } else if (of_kind(row) != o) {
-            field(row.field).colour = of_kind(row) == E ? Colour::window : Colour::grey;
+            field(row.field).color = of_kind(row) == E ? Color::window : Color::gray;
         }
     }
 }
@@ -136,7 +136,7 @@ void ResetInletDataFields() {
         field(id).enabled = false;
     }
     for (const FieldId id : inlet_data_fields) {
-        field(id).colour = Colour::grey;
+        field(id).color = Color::gray;
     }
 }
 

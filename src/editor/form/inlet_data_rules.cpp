@@ -17,7 +17,7 @@ using namespace engine::words;
 
 void fix_throat_angle(double degrees) {
     auto& angle = field(txtAngle);
-    angle.colour = platform::Colour::grey;
+    angle.color = platform::Color::gray;
     angle.locked = true;
     set_text(txtAngle, platform::format_number(degrees, screen_field(txtAngle).format));
 }

@@ -2,7 +2,7 @@
 
 namespace gullymark::editor {
 
-using platform::Colour;
+using platform::Color;
 using platform::Field;
 
 ScreenFields drawn_fields() {
@@ -49,12 +49,12 @@ bool InletScreen::editable(FieldId id) const {
 
 void enable(Field& field) {
     field.enabled = true;
-    field.colour = Colour::window;
+    field.color = Color::window;
 }
 
 void disable(Field& field) {
     field.enabled = false;
-    field.colour = Colour::grey;
+    field.color = Color::gray;
 }
 
 }  // namespace gullymark::editor

@@ -11,7 +11,7 @@ namespace gullymark::editor {
 void DataControl::connect() {
     // What the project's own connection refused is not read by the way of a list's.
     if (!store::project_store.connection.is_open()) {
-        throw platform::Failure("no project file is open");
+        throw platform::Failure(platform::no_file_is_open);
     }
     connection.open(store::session.projectFilePath);
     if (store::project_store.connection.refuses_writes()) {

@@ -90,13 +90,13 @@ void put_content(const ScreenItem& item, QWidget& widget) {
     }
 }
 
-void put_colour(platform::Colour colour, QWidget& widget) {
-    constexpr const char* shown = "shown_grey";
-    const bool grey = colour == platform::Colour::grey;
-    const QVariant wanted = grey ? QVariant(QGuiApplication::palette().color(QPalette::Button)) : QVariant();
+void put_color(platform::Color color, QWidget& widget) {
+    constexpr const char* shown = "shown_gray";
+    const bool gray = color == platform::Color::gray;
+    const QVariant wanted = gray ? QVariant(QGuiApplication::palette().color(QPalette::Button)) : QVariant();
     if (widget.property(shown) != wanted) {
         QPalette palette;
-        if (grey) {
+        if (gray) {
             palette.setColor(QPalette::Base, wanted.value<QColor>());
         }
         widget.setPalette(palette);
@@ -109,7 +109,7 @@ void put_colour(platform::Colour colour, QWidget& widget) {
 void put_on_screen(const ScreenItem& item, QWidget& widget) {
     put_content(item, widget);
     const platform::Field& field = *item.field;
-    put_colour(field.colour, widget);
+    put_color(field.color, widget);
     if (widget.isEnabledTo(widget.parentWidget()) != field.enabled) {
         widget.setEnabled(field.enabled);
     }

@@ -93,10 +93,10 @@ TEST_F(MetricDefaults, ANewInletInMetricUnitsStartsWithThese) {
     EXPECT_EQ(engine::unit_constants.numberFormat, "#0.0000");
 }
 
-TEST_F(Defaults, TheThroatAngleStartsGreyAndLocked) {
+TEST_F(Defaults, TheThroatAngleStartsGrayAndLocked) {
     mnuAddinlet_Click();
     EXPECT_TRUE(field(txtAngle).locked);
-    EXPECT_EQ(field(txtAngle).colour, Colour::grey);
+    EXPECT_EQ(field(txtAngle).color, Color::gray);
 }
 
 using Texts = std::vector<std::string>;

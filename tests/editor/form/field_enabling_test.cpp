@@ -16,14 +16,14 @@ struct FieldEnabling : EditorTest {
         show_workspace();
         add_inlet("N1");
     }
-    /// Texts, colours and states that no operation leaves behind by chance.
+    /// Texts, colors and states that no operation leaves behind by chance.
     static void make_strange() {
         for (const FieldId id : all_fields) {
             if (screen_field(id).tab == 2 && screen_field(id).column) {
                 frminletMDIC.screen.set_text(id, "kept");
                 frminletMDIC.screen[id].enabled = false;
                 frminletMDIC.screen[id].locked = false;
-                frminletMDIC.screen[id].colour = Colour::grey;
+                frminletMDIC.screen[id].color = Color::gray;
             }
         }
     }
@@ -57,7 +57,7 @@ TEST_F(FieldEnabling, TheNineOperationsOfferTheFieldsOfTheirKind) {
             const char mark = row.kinds[kind];
             const auto where = std::string(field_name(row.field)) + " of operation " + std::to_string(kind);
             EXPECT_EQ(field(row.field).enabled, mark == 'E') << where;
-            EXPECT_EQ(field(row.field).colour, mark == 'E' ? Colour::window : Colour::grey) << where;
+            EXPECT_EQ(field(row.field).color, mark == 'E' ? Color::window : Color::gray) << where;
             EXPECT_EQ(shown(row.field), mark == 'C' ? "" : "kept") << where;
         }
     }
@@ -71,13 +71,13 @@ TEST_F(FieldEnabling, AnInclinedThroatOpensItsAngle) {
         operation();
         EXPECT_TRUE(field(txtAngle).enabled);
         EXPECT_FALSE(field(txtAngle).locked);
-        EXPECT_EQ(field(txtAngle).colour, Colour::window);
+        EXPECT_EQ(field(txtAngle).color, Color::window);
         EXPECT_EQ(shown(txtAngle), "kept");
 
         frminletMDIC.screen.set_text(cboThroat, "Vertical");
         operation();
         EXPECT_TRUE(field(txtAngle).locked);
-        EXPECT_EQ(field(txtAngle).colour, Colour::grey);
+        EXPECT_EQ(field(txtAngle).color, Color::gray);
         EXPECT_EQ(shown(txtAngle), "kept");
     }
 }

@@ -100,7 +100,7 @@ TEST_F(FieldRules, APickOfTypeDisablesTheInletDataButTheInletSlope) {
                              txtWg,     txtzl,    txtzr,   cboLength, cboLCOUG, cboType, txthco,
                              cboThroat, txtAngle, txtPeri, txtArea,   cboClog,  cboCurb, txtslotw}) {
         EXPECT_FALSE(field(id).enabled) << field_name(id);
-        EXPECT_EQ(field(id).colour, Colour::grey) << field_name(id);
+        EXPECT_EQ(field(id).color, Color::gray) << field_name(id);
     }
     EXPECT_TRUE(field(txtSdashW).enabled);
 }
@@ -113,19 +113,19 @@ TEST_F(FieldRules, TheThroatSetsItsAngle) {
     pick(cboThroat, "Horizontal");
     EXPECT_EQ(shown(txtAngle), "0.00");
     EXPECT_TRUE(field(txtAngle).locked);
-    EXPECT_EQ(field(txtAngle).colour, Colour::grey);
+    EXPECT_EQ(field(txtAngle).color, Color::gray);
     EXPECT_EQ(shown(txtQi), "");
 
     pick(cboThroat, "Inclined");
     EXPECT_EQ(shown(txtAngle), "0.00");
     EXPECT_FALSE(field(txtAngle).locked);
     EXPECT_TRUE(field(txtAngle).enabled);
-    EXPECT_EQ(field(txtAngle).colour, Colour::window);
+    EXPECT_EQ(field(txtAngle).color, Color::window);
 
     pick(cboThroat, "Vertical");
     EXPECT_EQ(shown(txtAngle), "90.00");
     EXPECT_TRUE(field(txtAngle).locked);
-    EXPECT_EQ(field(txtAngle).colour, Colour::grey);
+    EXPECT_EQ(field(txtAngle).color, Color::gray);
 }
 
 TEST_F(FieldRules, APickOfGrateTypeOrCurbClearsTheResults) {

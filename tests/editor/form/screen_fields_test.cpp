@@ -162,7 +162,7 @@ TEST(InletScreen, WhatTheProgramFillsIsNeverTyped) {
     const InletScreen screen;
     for (const FieldId id : {FieldId::project_id, FieldId::carryover1, FieldId::QTotal, FieldId::txta}) {
         EXPECT_FALSE(screen.usable(id)) << field_name(id);
-        EXPECT_EQ(screen[id].colour, platform::Colour::grey) << field_name(id);
+        EXPECT_EQ(screen[id].color, platform::Color::gray) << field_name(id);
     }
 }
 

@@ -65,11 +65,11 @@ TEST(Binder, ShowsOneCaptionOnEveryLabelOfAGroup) {
     EXPECT_EQ(form.other_unit_label->text(), "m");
 }
 
-TEST(Binder, ShowsWhatIsDisabledLockedHiddenOrGrey) {
+TEST(Binder, ShowsWhatIsDisabledLockedHiddenOrGray) {
     SmallForm form;
     form.open();
     form.number.locked = true;
-    form.number.colour = platform::Colour::grey;
+    form.number.color = platform::Color::gray;
     form.kind.enabled = false;
     form.unit.visible = false;
     show_all();
