@@ -1,12 +1,14 @@
 #include "engine/unit_constants.h"
 
+#include "platform/unit_system.h"
+
 namespace gullymark::engine {
 
 UnitConstants unit_constants;
 std::string UnitSystem;
 
 bool is_english() {
-    return UnitSystem == "ENGLISH";
+    return UnitSystem == platform::english_units;
 }
 
 void set_gutterFlowConstant() {

@@ -21,7 +21,7 @@ struct UnitConstants {
 
 extern UnitConstants unit_constants;
 
-/// The text of the project's units. "ENGLISH" is the one name; any other text is metric.
+/// The text of the project's units. platform::english_units is the one name; any other text is metric.
 extern std::string UnitSystem;
 
 /// True when the project's units are ENGLISH: feet, inches and cubic feet per second.

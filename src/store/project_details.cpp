@@ -8,6 +8,7 @@
 #include "platform/characters.h"
 #include "platform/failure.h"
 #include "platform/outside.h"
+#include "platform/unit_system.h"
 #include "store/counties.h"
 #include "store/main_window.h"
 #include "store/project_session.h"
@@ -52,7 +53,7 @@ void allow_entry(Field& field, bool allowed) {
 
 void fill_lists() {
     frmProject.county.entries.assign(counties.begin(), counties.end());
-    frmProject.units.entries = {"ENGLISH"};
+    frmProject.units.entries = {std::string(platform::english_units)};
     set_field_text(frmProject.units, frmProject.units.entries.front());
 }
 
@@ -209,7 +210,7 @@ void addnewproject() {
         }
         set_field_text(frmProject.state, "AL");
         set_field_text(frmProject.county, "Autauga");
-        set_field_text(frmProject.units, "ENGLISH");
+        set_field_text(frmProject.units, std::string(platform::english_units));
         session.productName = "GULLYMARKAL";
         frmsoftwaremain.status_panels[0] = "Create Project";
         frmProject.adding = true;

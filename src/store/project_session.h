@@ -14,7 +14,7 @@ struct ProjectSession {
     std::string projectCounty;
     std::string projectState;
     std::string projectDesigner;
-    std::string projectUnits;                 // "ENGLISH", or any other text for metric
+    std::string projectUnits;                 // platform::english_units, or any other text for metric
     std::string productName;                  // "GULLYMARKAL" in a file of this product
     std::optional<std::string> majorRelease;  // null as the file has it
     std::string releaseDate;
