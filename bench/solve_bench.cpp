@@ -80,7 +80,7 @@ void one_pass_of_the_spread_search(benchmark::State& state) {
     engine::Real T = 7.5;
     for (auto _ : state) {
         const auto Qs = 1.0 * engine::power(T - 2.0, 2.67);
-        auto Q = Qs / engine::side_flow_share(T, 2.0, 0.08, 0.02);
+        engine::Real Q = Qs / engine::side_flow_share(T, 2.0, 0.08, 0.02);
         benchmark::DoNotOptimize(T);
         benchmark::DoNotOptimize(Q);
     }

@@ -3,9 +3,10 @@
 //   solve_cases [--kind "Curb Inlet"] [--location "SUMP"] TABLE...
 //
 // Or tells one inlet step by step, the one on that line of the table (the heading is line 1): what each step of the solver
-// gave to which quantity, what the boxes said, and each column that the solve changed.
+// gave to which quantity, by which formula, with symbols and with numbers in their place (in six digits, or in all of them),
+// what the boxes said, and each column that the solve changed.
 //
-//   solve_cases --trace LINE TABLE
+//   solve_cases --trace LINE [--digits few|all] TABLE
 //
 // Exit 0 when no cell differs, 1 when one does, 2 when the call or a table cannot be read.
 
@@ -31,7 +32,8 @@ constexpr std::size_t first_line = 2;  // of a row; the heading is line 1
 struct Request {
     std::string kind;
     std::string location;
-    std::size_t traced_line = 0;  // 0 for none
+    std::size_t traced_line = 0;                                       // 0 for none
+    engine::formula::Style numbers = engine::formula::Style::numbers;  // of a trace
     std::vector<std::string> tables;
 };
 
@@ -50,6 +52,10 @@ bool read_line_number(const std::string& text, std::size_t& line) {
 bool read_option(const std::string& option, const std::string& value, Request& request) {
     if (option == "--trace") {
         return read_line_number(value, request.traced_line);
+    }
+    if (option == "--digits" && (value == "few" || value == "all")) {
+        request.numbers = value == "all" ? engine::formula::Style::exact : engine::formula::Style::numbers;
+        return true;
     }
     if (option == "--kind" || option == "--location") {
         (option == "--kind" ? request.kind : request.location) = value;
@@ -106,7 +112,7 @@ void tell_changes(const std::vector<std::string>& before) {
     }
 }
 
-void trace_row(const std::string& path, std::size_t line) {
+void trace_row(const std::string& path, std::size_t line, engine::formula::Style numbers) {
     const cases::Table table = cases::read_table(path);
     if (line - first_line >= table.rows.size()) {
         throw std::runtime_error(path + " has no line " + std::to_string(line));
@@ -127,6 +133,9 @@ void trace_row(const std::string& path, std::size_t line) {
               << '\n';
     for (const auto& step : trace) {
         std::cout << engine::describe(step) << '\n';
+        for (const auto& formula : engine::describe_formula(step, numbers)) {
+            std::cout << "      " << formula << '\n';
+        }
     }
     std::cout << "solved: " << computed.at("solved") << "\nmessages: " << computed.at("messages") << '\n';
     tell_changes(before);
@@ -136,11 +145,11 @@ int run(const std::vector<std::string>& arguments) {
     Request request;
     if (!read_arguments(arguments, request)) {
         std::cerr << "usage: solve_cases [--kind INLET_TYPE] [--location INLET_LOCATION] TABLE...\n"
-                     "       solve_cases --trace LINE TABLE\n";
+                     "       solve_cases --trace LINE [--digits few|all] TABLE\n";
         return 2;
     }
     if (request.traced_line != 0) {
-        trace_row(request.tables.front(), request.traced_line);
+        trace_row(request.tables.front(), request.traced_line, request.numbers);
         return 0;
     }
     Count count;

@@ -33,14 +33,10 @@ std::string describe(const TraceLine& line) {
         return line.fault == Fault::none ? text : text + ": " + std::string(fault_text(line.fault));
     }
     text += line.symbol;
-    if (line.fault != Fault::none) {
-        text += " abandoned: " + std::string(fault_text(line.fault));
-    } else if (line.kind == TraceLine::Kind::text) {
-        text += " = \"" + line.text + '"';
-    } else {
-        text += " = " + platform::number_text(line.number);
-    }
-    if (const auto unit = unit_text(line.unit); !unit.empty() && line.fault == Fault::none) {
+    text += line.fault == Fault::none ? " = "
+                                      : " abandoned: " + std::string(fault_text(line.fault)) + "; it stays ";
+    text += line.kind == TraceLine::Kind::text ? '"' + line.text + '"' : platform::number_text(line.number);
+    if (const auto unit = unit_text(line.unit); !unit.empty()) {
         text += ' ';
         text += unit;
     }
@@ -49,62 +45,35 @@ std::string describe(const TraceLine& line) {
     return text;
 }
 
-namespace {
-
-Outcome read(std::string_view text) {
-    const auto read = platform::read_number(text);
-    switch (read.fault) {
-        case platform::NumberFault::unreadable:
-            return Fault::unreadable_number;
-        case platform::NumberFault::overflow:
-            return Fault::overflow;
-        case platform::NumberFault::none:
-            break;
-    }
-    return Real(read.number);
-}
-
-}  // namespace
-
-Real number_in(std::string_view text) {
-    const Outcome outcome = read(text);
-    if (outcome.fault != Fault::none) {
-        throw outcome.fault;
-    }
-    return outcome.value;
-}
-
-Reading::Reading(Column column) : outcome_(read(open_inlet.text(column))) {}
-
-Real number_in(Column column) {
-    return number_in(open_inlet.text(column));
+std::vector<std::string> describe_formula(const TraceLine& line, formula::Style numbers) {
+    return formula::lines_of(line.formula, line.workings,
+                             line.kind == TraceLine::Kind::condition ? "if " : "= ", numbers);
 }
 
 namespace detail {
 
-void note(int number, const Quantity& target, Fault fault) {
-    onlooker.trace->push_back({.step = number,
-                               .kind = TraceLine::Kind::number,
-                               .fault = fault,
-                               .unit = target.unit,
-                               .symbol = target.symbol,
-                               .meaning = target.meaning,
-                               .number = target.value.number()});
+void note(TraceLine line, const Quantity& target) {
+    line.kind = TraceLine::Kind::number;
+    line.unit = target.unit;
+    line.symbol = target.symbol;
+    line.meaning = target.meaning;
+    line.number = target.value.number();
+    onlooker.trace->push_back(std::move(line));
 }
 
-void note(int number, Column target, Fault fault) {
-    onlooker.trace->push_back({.step = number,
-                               .kind = TraceLine::Kind::text,
-                               .fault = fault,
-                               .unit = column_unit(target),
-                               .symbol = column_name(target),
-                               .meaning = column_meaning(target),
-                               .text = open_inlet.text(target)});
+void note(TraceLine line, Column target) {
+    line.kind = TraceLine::Kind::text;
+    line.unit = column_unit(target);
+    line.symbol = column_name(target);
+    line.meaning = column_meaning(target);
+    line.text = open_inlet.text(target);
+    onlooker.trace->push_back(std::move(line));
 }
 
-void note(int number, bool entered, Fault fault) {
-    onlooker.trace->push_back(
-        {.step = number, .kind = TraceLine::Kind::condition, .fault = fault, .number = entered ? 1.0 : 0.0});
+void note(TraceLine line, bool entered) {
+    line.kind = TraceLine::Kind::condition;
+    line.number = entered ? 1.0 : 0.0;
+    onlooker.trace->push_back(std::move(line));
 }
 
 void write(Column target, Real number) {

@@ -6,9 +6,13 @@
 #include <utility>
 #include <vector>
 
+#include "engine/condition.h"
+#include "engine/formula.h"
 #include "engine/inlet_record.h"
+#include "engine/quantity.h"
 #include "engine/real.h"
 #include "engine/units.h"
+#include "engine/workings.h"
 
 /// The one rule of the solvers: a step gives its target the value of its formula; if the formula cannot be
 /// evaluated (an arithmetic fault, an unreadable number) the target keeps the value it had, and the next step
@@ -18,18 +22,6 @@
 /// and a trace can name it.
 namespace gullymark::engine {
 
-/// A named number of a calculation sheet. It starts at 0.
-struct Quantity {
-    std::string_view symbol;
-    Unit unit = Unit::ratio;
-    std::string_view meaning;
-    Real value = 0.0;
-
-    operator Real() const {
-        return value;
-    }  // NOLINT(google-explicit-constructor): a symbol stands for its value
-};
-
 /// What one step did.
 struct TraceLine {
     enum class Kind : unsigned char { number, text, condition };
@@ -38,14 +30,21 @@ struct TraceLine {
     Kind kind = Kind::number;
     Fault fault = Fault::none;  // other than none: abandoned, the target kept its value
     Unit unit = Unit::ratio;
-    std::string_view symbol;   // of a condition: empty
-    std::string_view meaning;  // of a condition: empty
-    double number = 0.0;       // of a number after the step; of a condition 1 for entered
-    std::string text;          // of a text after the step
+    std::string_view symbol;                 // of a condition: empty
+    std::string_view meaning;                // of a condition: empty
+    double number = 0.0;                     // of a number after the step; of a condition 1 for entered
+    std::string text;                        // of a text after the step
+    formula::Spelling formula;               // of a number, a text or a condition; what the step was made of
+    std::vector<formula::Working> workings;  // what the functions and searches of the formula told, in order
 };
 
-/// "12  T = 7.41 ft  spread of the gutter flow", "31  V abandoned: division by zero  velocity".
+/// "12  T = 7.41 ft  spread of the gutter flow", "31  V abandoned: division by zero; it stays 0 ft/sec  velocity".
 std::string describe(const TraceLine& line);
+
+/// How it came to that, a line each: "= W / T", "= 2 / 6.94661", what it read, and what its functions and searches tell.
+/// The numbers in six digits, or in all of theirs (`Style::exact`).
+std::vector<std::string> describe_formula(const TraceLine& line,
+                                          formula::Style numbers = formula::Style::numbers);
 
 /// A fault in a few words: "division by zero"; empty for none.
 std::string_view fault_text(Fault fault);
@@ -58,34 +57,12 @@ struct Onlooker {
 
 extern Onlooker onlooker;
 
-/// The number in a text. Faults on one that is none, an empty one included, and on one too large for a double.
-Real number_in(std::string_view text);
-
-/// The number in the text of a column of the open inlet.
-Real number_in(Column column);
-
-/// A column read once for a sheet that uses it in several steps: each use gives its number, or throws its fault.
-class Reading {
-  public:
-    Reading() = default;
-    explicit Reading(Column column);
-
-    operator Real() const {  // NOLINT(google-explicit-constructor): it stands for its number
-        if (outcome_.fault != Fault::none) {
-            throw outcome_.fault;
-        }
-        return outcome_.value;
-    }
-
-  private:
-    Outcome outcome_ = Real(0.0);
-};
-
 namespace detail {
 /// What a step did, for the trace that somebody takes.
-void note(int number, const Quantity& target, Fault fault);
-void note(int number, Column target, Fault fault);
-void note(int number, bool entered, Fault fault);
+void note(TraceLine line, const Quantity& target);
+void note(TraceLine line, Column target);
+void note(TraceLine line, bool entered);
+
 /// Faults when a test asked for it at this step.
 inline void trip(int number) {
     if (onlooker.tripped_step == number) {
@@ -107,53 +84,120 @@ Fault take(Target&& target, const Value& value) {
             write(target, value.value);
         }
         return value.fault;
+    } else if constexpr (formula::Tree<Value> && requires { value.outcome(); }) {
+        return take(target, value.outcome());
+    } else if constexpr (formula::TextTree<Value> && std::is_same_v<std::remove_cvref_t<Target>, Column>) {
+        write(target, value.text());
+        return Fault::none;
+    } else if constexpr (formula::Tree<Value>) {
+        write(target, value.value());
+        return Fault::none;
     } else {
         write(target, value);
         return Fault::none;
     }
 }
 
-/// Runs one step and notes it; the fault that abandoned it, or none.
+/// How what a formula or a condition gave is written; nothing for a plain answer.
+template <typename Value>
+formula::Spelling spell(const Value& value) {
+    if constexpr (std::is_same_v<Value, Outcome>) {
+        return formula::Named("", value).spelled();
+    } else if constexpr (formula::Operand<Value>) {
+        return formula::tree(value).spelled();
+    } else if constexpr (formula::Tree<Value> || formula::Asked<Value>) {
+        return value.spelled();
+    } else if constexpr (std::is_convertible_v<Value, std::string_view>) {
+        return formula::spell_words("", value);
+    } else {
+        return {};
+    }
+}
+
+/// The workings of the step that runs go into its line.
+class Workings {
+  public:
+    explicit Workings(TraceLine& line) { formula::workings = &line.workings; }
+    ~Workings() { formula::workings = nullptr; }
+    Workings(const Workings&) = delete;
+    Workings& operator=(const Workings&) = delete;
+    Workings(Workings&&) = delete;
+    Workings& operator=(Workings&&) = delete;
+};
+
+/// Runs one step that somebody looks at. It is spelled before its target changes.
 template <typename Target, typename Formula>
-Fault run(int number, Target&& target, Formula&& formula) {
-    Fault caught = Fault::none;
+[[gnu::noinline, gnu::cold]] Fault run_traced(int number, Target& target, Formula& formula) {
+    TraceLine line{.step = number};
     try {
         trip(number);
-        caught = take(target, std::forward<Formula>(formula)());
+        const Workings workings(line);
+        const auto value = formula();
+        line.formula = spell(value);
+        line.fault = take(target, value);
     } catch (Fault fault) {
-        caught = fault;
+        line.fault = fault;
     }
-    if (onlooker.trace != nullptr) {
-        note(number, target, caught);
-    }
+    const Fault caught = line.fault;
+    note(std::move(line), target);
     return caught;
 }
 
-/// Asks a condition and notes it; `entered` keeps its value when that faults. The fault, or none.
-template <typename Condition>
-Fault ask(int number, bool& entered, Condition&& condition) {
-    Fault caught = Fault::none;
+/// Runs one step; the fault that abandoned it, or none. Flattened: the tree of the formula dissolves into its arithmetic.
+template <typename Target, typename Formula>
+[[gnu::flatten]] Fault run(int number, Target&& target, Formula&& formula) {
+    if (onlooker.trace != nullptr) {
+        return run_traced(number, target, formula);
+    }
     try {
         trip(number);
-        entered = std::forward<Condition>(condition)();
+        return take(target, formula());
     } catch (Fault fault) {
-        caught = fault;
+        return fault;
     }
-    if (onlooker.trace != nullptr) {
-        note(number, entered, caught);
+}
+
+template <typename Condition>
+[[gnu::noinline, gnu::cold]] Fault ask_traced(int number, bool& entered, Condition& condition) {
+    TraceLine line{.step = number};
+    try {
+        trip(number);
+        const Workings workings(line);
+        const auto asked = condition();
+        line.formula = spell(asked);
+        entered = static_cast<bool>(asked);
+    } catch (Fault fault) {
+        line.fault = fault;
     }
+    const Fault caught = line.fault;
+    note(std::move(line), entered);
     return caught;
+}
+
+/// Asks a condition; `entered` keeps its value when that faults. The fault, or none.
+template <typename Condition>
+[[gnu::flatten]] Fault ask(int number, bool& entered, Condition&& condition) {
+    if (onlooker.trace != nullptr) {
+        return ask_traced(number, entered, condition);
+    }
+    try {
+        trip(number);
+        entered = static_cast<bool>(condition());
+        return Fault::none;
+    } catch (Fault fault) {
+        return fault;
+    }
 }
 }  // namespace detail
 
-/// A step under the rule above. `target` is a Quantity or a Column, `formula` gives a Real (a column takes
-/// its text of up to 15 digits), an Outcome or, for a column, a text.
+/// A step under the rule above. `target` is a Quantity or a Column, `formula` gives a tree of formula.h, a Real (a
+/// column takes its text of up to 15 digits), an Outcome or, for a column, a text.
 template <typename Target, typename Formula>
 void step(int number, Target&& target, Formula&& formula) {
     detail::run(number, target, std::forward<Formula>(formula));
 }
 
-/// A condition under the rule above: a fault enters the branch.
+/// A condition under the rule above: a fault enters the branch. `condition` gives one of condition.h, or a plain bool.
 template <typename Condition>
 bool holds(int number, Condition&& condition) {
     bool entered = true;

@@ -20,7 +20,7 @@ struct Expected {
 void compare(std::initializer_list<Expected> values) {
     for (const auto& [column, published, by_hand, within] : values) {
         EXPECT_EQ(open_inlet.text(column), by_hand) << column_name(column);
-        EXPECT_NEAR(number_in(column).number(), published, within) << column_name(column);
+        EXPECT_NEAR(number_in(column).value().number(), published, within) << column_name(column);
     }
 }
 

@@ -29,6 +29,15 @@ tells '[0-9]+  OPENSPREAD = "6\.94[67][0-9]+" ft  Spread of water at the opening
 tells '[0-9]+  branch entered'
 tells '[0-9]+  branch passed by'
 tells '[0-9]+  Se = 0\.2555 ft/ft  composite cross slope'
+# Each formula with its symbols and with the numbers in their place; a reason for each branch; the column that was read.
+tells '      = K_L x Q\^0\.42 x S\^0\.3 x \(1 / \(n x Se\)\)\^0\.6'
+tells '      = 0\.6 x 2\.7\^0\.42 x 0\.03\^0\.3 x \(1 / \(0\.016 x 0\.2555\)\)\^0\.6'
+tells '      if W > 0 and Sw > Sx'
+tells '      if 2 > 0 and 0\.0833 > 0\.0208'
+tells '      reads TOTAL_DISCHARGE "2\.700": Flow that the inlet must take'
+# The search of the spread: its bounds, its passes, and the answer put back.
+tells '      - search of T from 2 to 48: [0-9]+ passes, until the flow is within 0\.0001'
+tells '      - residual = -?[0-9.]+(E-[0-9]+)? cfs  .*'
 tells 'solved: yes'
 tells 'messages: '
 tells 'OPENSPREAD = "6\.947" ft  Spread of water at the opening'
@@ -36,6 +45,10 @@ tells 'QCARRY = "0\.532" cfs  .*'
 # A statement of the sheet for each number, in order; what a condition passes by has none.
 numbers=$(sed -nE 's/^([0-9]+)  .*/\1/p' <<<"$told")
 [ "$(wc -l <<<"$numbers")" -ge 40 ] && sort -nc <<<"$numbers" 2>/dev/null || fail "these steps are not in order:"
+
+# In all of their digits, on request.
+told=$("$solve_cases" --trace 2 --digits all solves_help.tsv 2>&1)
+tells '      = 0\.6000000238418579 x 2\.7\^0\.42 x .*'
 
 # Every result that a table expects stands at the end as it expects it.
 for line in 2 40 400; do
@@ -50,7 +63,7 @@ for line in 2 40 400; do
 done
 
 # What cannot be told is said so.
-for call in "1 solves_help.tsv" "999999 solves_help.tsv" "two solves_help.tsv" "2 no_such_table.tsv" "2" "2 solves_help.tsv solves_deep.tsv"; do
+for call in "1 solves_help.tsv" "999999 solves_help.tsv" "two solves_help.tsv" "2 no_such_table.tsv" "2" "2 solves_help.tsv solves_deep.tsv" "2 --digits some solves_help.tsv"; do
   # shellcheck disable=SC2086
   trace $call
   [ "$status" -eq 2 ] || fail "--trace $call ends with $status:"

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <string_view>
+
 #include "engine/hydraulics/sump_march.h"
 #include "engine/real.h"
+#include "engine/workings.h"
 
 /// The open-channel calculations that the solvers share. Numbers in, a number out; no record is touched.
 /// Lengths are in ft or m, discharges in cfs or cms, angles in radians. A fault leaves as a thrown Fault unless a
@@ -13,21 +16,32 @@ namespace gullymark::engine {
 
 /// The cross section of a gutter and the flow that it carries.
 struct GutterFlow {
-    Real K;             // gutter flow constant
-    Real Q;             // discharge
-    Real S;             // longitudinal slope
-    Real n;             // Manning's roughness coefficient
-    Real W;             // gutter width
-    Real Sx;            // pavement cross slope
-    Real Sw;            // gutter cross slope
-    Real Wa;            // width of the local depression; no formula uses it
-    Real spread_limit;  // allowable spread
+    Real K;                            // gutter flow constant
+    Real Q;                            // discharge
+    Real S;                            // longitudinal slope
+    Real n;                            // Manning's roughness coefficient
+    Real W;                            // gutter width
+    Real Sx;                           // pavement cross slope
+    Real Sw;                           // gutter cross slope
+    Real Wa;                           // width of the local depression; no formula uses it
+    Real spread_limit;                 // allowable spread
+    std::string_view discharge = "Q";  // the symbol that Q has in the sheet
 };
 
 /// Share of the flow outside the width W of a composite section with the spread T, the complement of Eo:
 ///
-///   1 - Eo = 1 - 1 / (1 + r / ((1 + r / (T / W - 1))^2.67 - 1)),  r = Sw / Sx
-Real side_flow_share(Real T, Real W, Real Sw, Real Sx);
+///   1 - Eo = 1 - 1 / (1 + r / ((1 + r / (T / W - 1))^2.67 - 1))
+template <typename Number>
+auto side_flow_share_of_ratio(const Number& T, const Number& W, const Number& r) {
+    return 1.0 - 1.0 / (1.0 + r / (power(1.0 + r / (T / W - 1.0), 2.67) - 1.0));
+}
+
+/// The same from the two slopes: r = Sw / Sx.
+inline auto side_flow_share(const formula::Named& T, const formula::Named& W, const formula::Named& Sw,
+                            const formula::Named& Sx) {
+    return side_flow_share_of_ratio(
+        T, W, formula::let({"r", Unit::ratio, "gutter slope over pavement slope"}, Sw / Sx));
+}
 
 /// Spread on one cross slope: T = ((Q n) / (K Sx^1.67 S^0.5))^(1 / 2.67).
 Real compute_uniform_spread(Real K, Real Q, Real S, Real n, Real Sx);

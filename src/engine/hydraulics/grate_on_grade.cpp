@@ -1,4 +1,5 @@
 #include "engine/hydraulics/grate_on_grade.h"
+#include "engine/constants.h"
 
 #include "engine/hydraulics/approach_spread.h"
 #include "engine/hydraulics/inlet_repairs.h"
@@ -31,8 +32,7 @@ void find_depression_slope(int first, GrateOnGrade& s) {
         }
     } else if (holds(first + 4, [&s] { return s.Wa > 0.0 && s.a > 0.0; })) {
         if (holds(first + 5, [&s] { return s.W > 0.0 && s.Sw > s.Sx; })) {
-            const auto width = [&s] { return s.Wa >= s.W ? s.Wa : s.W; };
-            step(first + 6, s.Spw, [&s, &width] { return (s.a + (s.Sw - s.Sx) * s.W) / width(); });
+            step(first + 6, s.Spw, [&s] { return (s.a + (s.Sw - s.Sx) * s.W) / larger(s.Wa, s.W); });
         } else if (holds(first + 7, [&s] { return s.W == 0.0 || s.Sw == s.Sx; })) {
             step(first + 8, s.Spw, [&s] { return s.a / s.Wa; });
         }
@@ -81,8 +81,7 @@ void find_approach(int first, GrateOnGrade& s) {
 void find_interception_length(int first, GrateOnGrade& s) {
     step(first, COMPXSLOPE, [&s] { return s.Se; });
     step(first + 1, s.LT, [&s] {
-        return unit_constants.curbLengthConstant * power(s.Q, 0.42) * power(s.S, 0.3) *
-               power(1.0 / (s.n * s.Se), 0.6);
+        return constants::K_L() * power(s.Q, 0.42) * power(s.S, 0.3) * power(1.0 / (s.n * s.Se), 0.6);
     });
     step(first + 2, INTLEN, [&s] { return s.LT; });
 }
@@ -90,10 +89,10 @@ void find_interception_length(int first, GrateOnGrade& s) {
 void find_depth_and_velocity(int first, GrateOnGrade& s) {
     step(first, s.d, [&s] { return (s.Sw - s.Sx) * s.W; });
     if (holds(first + 1, [&s] { return s.T > s.W; })) {
-        step(first + 2, s.y, [&s] { return (s.T * s.Sx + s.d) * unit_constants.depthFactor; });
+        step(first + 2, s.y, [&s] { return (s.T * s.Sx + s.d) * constants::depthFactor(); });
         step(first + 3, s.A, [&s] { return square(s.T) / 2.0 * s.Sx + 0.5 * s.d * s.W; });
     } else {
-        step(first + 4, s.y, [&s] { return s.T * s.Sw * unit_constants.depthFactor; });
+        step(first + 4, s.y, [&s] { return s.T * s.Sw * constants::depthFactor(); });
         step(first + 5, s.A, [&s] { return square(s.T) / 2.0 * s.Sw; });
     }
     step(first + 6, CURBDEPTH, [&s] { return s.y; });
@@ -101,18 +100,18 @@ void find_depth_and_velocity(int first, GrateOnGrade& s) {
     step(first + 8, FLOWVEL, [&s] { return s.V; });
 }
 
-void find_grate_efficiency(int first, GrateOnGrade& s, Real V) {
+void find_grate_efficiency(int first, GrateOnGrade& s, const Quantity& V) {
     read_grate_length(first, s.frontal);
     find_frontal_efficiency(first + 1, s.frontal, V);
-    step(first + 14, s.Rs, [&s, V] {
-        const Real length = s.frontal.length;
-        return 1.0 / (1.0 + unit_constants.sideFlowConstant * power(V, 1.8) / (s.Sx * power(length, 2.3)));
+    step(first + 14, s.Rs, [&s, &V] {
+        const auto& length = s.frontal.length;
+        return 1.0 / (1.0 + constants::K_s() * power(V, 1.8) / (s.Sx * power(length, 2.3)));
     });
     // Without a depression the division faults: the grate keeps the whole of Eo, and a clogged one still
     // intercepts.
     step(first + 15, s.Eg, [&s] { return s.Eo; });
     step(first + 16, s.Eg, [&s] {
-        const Real length = grate_length_in_feet(s.frontal);
+        const auto length = grate_length_in_feet(s.frontal);
         return divide(s.Eo * (length * s.Weff), length * s.Wa);
     });
     step(first + 17, s.E, [&s] { return s.Eg * s.frontal.Rf + s.Rs * (1.0 - s.Eg); });

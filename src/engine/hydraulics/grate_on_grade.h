@@ -53,6 +53,6 @@ void find_interception_length(int first, GrateOnGrade& s);
 void find_depth_and_velocity(int first, GrateOnGrade& s);
 
 /// The grate's efficiency E at the velocity V (ft/s, m/s) over it; writes EFFICIENCY. 21 steps.
-void find_grate_efficiency(int first, GrateOnGrade& s, Real V);
+void find_grate_efficiency(int first, GrateOnGrade& s, const Quantity& V);
 
 }  // namespace gullymark::engine

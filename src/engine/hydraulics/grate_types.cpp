@@ -8,6 +8,8 @@
 namespace gullymark::engine {
 namespace {
 
+using formula::Named;
+
 constexpr double meters_per_foot = 0.3048;
 
 // Share of the frontal flow that each ft/s above Vo splashes over; in metric units each m/s.
@@ -55,11 +57,11 @@ void read_grate_length(int number, FrontalFlow& frontal) {
     }
 }
 
-Real grate_length_in_feet(const FrontalFlow& frontal) {
-    return is_english() ? Real(frontal.length) : frontal.Lf;
+formula::Named grate_length_in_feet(const FrontalFlow& frontal) {
+    return is_english() ? formula::Named(frontal.length) : formula::Named(frontal.Lf);
 }
 
-void find_frontal_efficiency(int first, FrontalFlow& frontal, Real V) {
+void find_frontal_efficiency(int first, FrontalFlow& frontal, const formula::Named& V) {
     const GrateType* const grate = grate_type(open_inlet.text(Column::GRATETYPE));
     if (grate == nullptr) {
         return;
@@ -72,12 +74,15 @@ void find_frontal_efficiency(int first, FrontalFlow& frontal, Real V) {
         step(first + 1, Rf, [] { return Real(1.0); });
     } else if (holds(first + 2, [&] { return length() > short_grate && length() < longest_grate; })) {
         // Only the longer grates have a limit of velocity.
-        if (!holds(first + 3, [&] { return V >= grate->Vmax; })) {
-            step(first + 4, Vo, [&] { return grate->b1 * length() + grate->b0; });
+        if (!holds(first + 3, [&] { return V >= Named("Vmax", grate->Vmax); })) {
+            step(first + 4, Vo, [&] { return Named("b1", grate->b1) * length() + Named("b0", grate->b0); });
             step(first + 5, Rf, by_velocity);
         }
     } else if (holds(first + 6, [&] { return length() > 0.0 && length() < short_grate; })) {
-        step(first + 7, Vo, [&] { return grate->c2 * square(length()) + grate->c1 * length() + grate->c0; });
+        step(first + 7, Vo, [&] {
+            return Named("c2", grate->c2) * square(length()) + Named("c1", grate->c1) * length() +
+                   Named("c0", grate->c0);
+        });
         step(first + 8, Rf, by_velocity);
     }
     if (holds(first + 9, [&] { return Rf > 1.0; })) {

@@ -44,7 +44,7 @@ void read_grate_length(int number, FrontalFlow& frontal);
 
 /// The length of the grate in feet: in ENGLISH units the number in INLETLENGTH, so that a text that is none
 /// faults wherever the length is used; else Lf, which such a text has left at 0.
-Real grate_length_in_feet(const FrontalFlow& frontal);
+formula::Named grate_length_in_feet(const FrontalFlow& frontal);
 
 /// The efficiency Rf for frontal flow of the grate in GRATETYPE at a velocity:
 ///
@@ -53,6 +53,6 @@ Real grate_length_in_feet(const FrontalFlow& frontal);
 /// An unknown grate, a length of 0 or below and one of exactly 4.5 ft give 0. A metric velocity goes in as it
 /// is: the fits stand for both unit systems. The hole at 4.5 and the unconverted velocity are deliberate. Thirteen steps
 /// from `first` on.
-void find_frontal_efficiency(int first, FrontalFlow& frontal, Real V);
+void find_frontal_efficiency(int first, FrontalFlow& frontal, const formula::Named& V);
 
 }  // namespace gullymark::engine

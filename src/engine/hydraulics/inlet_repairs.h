@@ -12,6 +12,8 @@ inline constexpr std::string_view usual_inlet_slope = "0.1";
 
 /// A blank `column` takes `text`. Two steps from `first` on.
 void fill_blank(int first, Column column, std::string_view text);
+/// The same with the text of another column.
+void fill_blank(int first, Column column, Column other);
 
 /// An INLETXSLOPE flatter than the pavement takes the text of PAVXSLOPE. `pavement_slope` is the slope to compare with:
 /// a Quantity, or in some solvers a Reading of the column, so that an unreadable one faults here and enters the branch.
@@ -19,12 +21,8 @@ void fill_blank(int first, Column column, std::string_view text);
 template <typename Slope>
 void raise_inlet_slope(int first, const Slope& pavement_slope) {
     if (holds(first, [&] { return pavement_slope > number_in(Column::INLETXSLOPE); })) {
-        step(first + 1, Column::INLETXSLOPE,
-             [] { return std::string_view(open_inlet.text(Column::PAVXSLOPE)); });
+        step(first + 1, Column::INLETXSLOPE, [] { return Copied(Column::PAVXSLOPE); });
     }
 }
-
-/// A number as its text in `format` ("0.0000") reads: halves away from zero on its 15 digits.
-Real rounded(Real number, std::string_view format);
 
 }  // namespace gullymark::engine

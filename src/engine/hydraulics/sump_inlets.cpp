@@ -1,14 +1,8 @@
 #include "engine/hydraulics/sump_inlets.h"
 
 #include "engine/words.h"
-#include "platform/number_text.h"
 
 namespace gullymark::engine {
-namespace {
-
-constexpr double pi = 3.14159265358979;
-
-}  // namespace
 
 void read_sump_flows(int first, SumpFlows& flows) {
     using enum Column;
@@ -31,15 +25,6 @@ Throat throat_named(std::string_view text) {
         return Throat::inclined;
     }
     return text == words::vertical_throat ? Throat::vertical : Throat::none;
-}
-
-Real in_radians(Real degrees) {
-    return degrees * pi / 180.0;
-}
-
-std::string clogged_perimeter(Real P, Real L, Real C) {
-    const Real perimeter = L + (P - L) * (1.0 - C / 100.0);
-    return platform::format_number(perimeter.number(), "0.000");
 }
 
 }  // namespace gullymark::engine

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <string>
 #include <string_view>
 
 #include "engine/hydraulics/sump_march.h"
@@ -26,10 +25,15 @@ void read_sump_flows(int first, SumpFlows& flows);
 Throat throat_named(std::string_view text);
 
 /// An angle in degrees, in radians, with the 15 digits of pi that all results rest on.
-Real in_radians(Real degrees);
+inline auto in_radians(const formula::Named& degrees) {
+    constexpr double pi = 3.14159265358979;
+    return degrees * formula::Named("pi", pi) / 180.0;
+}
 
 /// The text, with three decimals, of the perimeter (ft, m) of a grate of the length L and the gross perimeter P that
 /// clogging by C percent leaves: L + (P - L) (1 - C / 100). It shortens only the part of the rim beyond one length.
-std::string clogged_perimeter(Real P, Real L, Real C);
+inline auto clogged_perimeter(const formula::Named& P, const formula::Named& L, const formula::Named& C) {
+    return rounded(L + (P - L) * (1.0 - C / 100.0), "0.000");
+}
 
 }  // namespace gullymark::engine

@@ -1,9 +1,16 @@
 #include "engine/hydraulics/sump_march.h"
 
 #include <cmath>
+#include <cstddef>
+
+#include "engine/workings.h"
 
 namespace gullymark::engine {
 namespace {
+
+using formula::decides;
+using formula::let;
+using formula::Named;
 
 constexpr double rise = 0.001;
 constexpr double sump_tolerance = 0.001;
@@ -20,20 +27,73 @@ struct Trial {
     bool by_far = false;   // so much too shallow that rounding plays no part in it
 };
 
+/// The flow whose numbers have the symbols that they have in the sheet of a combination.
+struct NamedFlow {
+    Named Q;
+    Named A;
+    Named g;
+    Named B;
+    Named h;
+    Named C;
+    Named angle;
+};
+
+NamedFlow name_numbers(const SumpFlow& flow) {
+    NamedFlow named{.Q = {"Q", flow.Q},
+                    .A = {"Ae", flow.A},
+                    .g = {"g", flow.g},
+                    .B = {"h", flow.B},
+                    .h = {"h", flow.h},
+                    .C = {"L", flow.C},
+                    .angle = {"radians", flow.angle}};
+    named.g.is_single = true;
+    return named;
+}
+
+// The pieces of the flow at a depth d with a head on the throat: for SumpFlow with Real, or for NamedFlow.
+template <typename Flow>
+auto horizontal_level(const Flow& f) {
+    return f.h / 2.0;
+}
+template <typename Flow>
+auto inclined_level(const Flow& f) {
+    return f.h / 2.0 * sine(f.angle);
+}
+template <typename Flow, typename Number>
+auto root_of(const Flow& f, const Number& d) {
+    return power(2.0 * f.g * d, 0.5);
+}
+template <typename Flow, typename Number>
+auto grate_beside_throat(const Flow& f, const Number& root) {
+    return f.A * root;
+}
+template <typename Flow, typename Number>
+auto throat_discharge(const Flow& f, const Number& head) {
+    return f.B * f.C * (2.0 * f.g) * power(head, 0.5);
+}
+template <typename Number>
+auto discharge_of_both(const Number& grate, const Number& throat) {
+    return orifice_coefficient * (grate + throat);
+}
+template <typename Flow, typename Number>
+auto discharge_of_grate(const Flow& f, const Number& root) {
+    return orifice_coefficient * f.A * root;
+}
+
 class Sump {
   public:
     explicit Sump(const SumpFlow& flow) : flow_(flow), throat_(throat_level(flow)) {}
 
     [[nodiscard]] Trial try_depth(Real d) const {
         const Real head = flow_.throat == Throat::none ? Real(0.0) : d - throat_;
-        const Real root = power(2.0 * flow_.g * d, 0.5);
+        const Real root = root_of(flow_, d);
         if (head > 0.0) {
-            const Real grate = flow_.A * root;
-            const Real throat = flow_.B * flow_.C * (2.0 * flow_.g) * power(head, 0.5);
-            return judge(orifice_coefficient * (grate + throat),
+            const Real grate = grate_beside_throat(flow_, root);
+            const Real throat = throat_discharge(flow_, head);
+            return judge(discharge_of_both(grate, throat),
                          std::fabs(grate.number()) + std::fabs(throat.number()));
         }
-        const Real grate = orifice_coefficient * flow_.A * root;
+        const Real grate = discharge_of_grate(flow_, root);
         return judge(grate, std::fabs(grate.number()));
     }
 
@@ -44,9 +104,9 @@ class Sump {
     static Real throat_level(const SumpFlow& flow) {
         switch (flow.throat) {
             case Throat::horizontal:
-                return flow.h / 2.0;
+                return horizontal_level(flow);
             case Throat::inclined:
-                return flow.h / 2.0 * sine(flow.angle);
+                return inclined_level(flow);
             case Throat::vertical:
             case Throat::none:
                 break;
@@ -64,6 +124,48 @@ class Sump {
     SumpFlow flow_;
     Real throat_;
 };
+
+/// The head on the throat under a depth.
+Named let_head(const SumpFlow& flow, const NamedFlow& f, const Named& d) {
+    const Quantity target{"level", Unit::length, "from which the head on the throat counts"};
+    const Quantity head{"head", Unit::length, "on the throat"};
+    switch (flow.throat) {
+        case Throat::horizontal:
+            return let(head, d - let(target, horizontal_level(f)));
+        case Throat::inclined:
+            return let(head, d - let(target, inclined_level(f)));
+        case Throat::vertical:
+            return let(head, d - 0.0);
+        case Throat::none:
+            break;
+    }
+    return let(head, Named(0.0));
+}
+
+/// The depth put back into the formulas.
+void tell_depth(const SumpFlow& flow, Real depth, std::size_t passes) {
+    formula::note_search({.target = {"d", Unit::length, "depth over the inlet"},
+                          .answer = depth,
+                          .low = rise + rise,
+                          .high = depth,
+                          .tolerance = sump_tolerance,
+                          .passes = passes,
+                          .ending = "up in steps of 0.001 until the flow is within 0.001 or beyond"});
+    const NamedFlow f = name_numbers(flow);
+    const Named d("d", depth);
+    const Quantity target{"Q_d", Unit::discharge, "flow that the depth carries"};
+    const Named root = let({"root", Unit::velocity, "velocity under the depth"}, root_of(f, d));
+    const Named head = let_head(flow, f, d);
+    Named carried;
+    if (decides(head > 0.0)) {
+        const Named grate = let({"grate", Unit::other, "its part"}, grate_beside_throat(f, root));
+        const Named throat = let({"throat", Unit::other, "its part"}, throat_discharge(f, head));
+        carried = let(target, discharge_of_both(grate, throat));
+    } else {
+        carried = let(target, discharge_of_grate(f, root));
+    }
+    let({"residual", Unit::discharge, "what the answer leaves of the flow"}, f.Q - carried);
+}
 
 /// Depths that the march tries one after the other, all one `step` apart.
 ///
@@ -114,10 +216,12 @@ double last_short_depth(const Stretch& stretch, FallsShort&& falls_short) {
 Real march_to_sump_depth(const SumpFlow& flow) {
     const Sump sump(flow);
     int in_doubt = 0;
+    std::size_t passes = 0;
     const auto may_pass = [&in_doubt](const Trial& trial) {
         return in_doubt < depths_in_doubt ? trial.by_far : trial.goes_on;
     };
     const auto falls_short = [&](double d) {
+        ++passes;
         try {
             return may_pass(sump.try_depth(d));
         } catch (Fault) {
@@ -126,8 +230,12 @@ Real march_to_sump_depth(const SumpFlow& flow) {
     };
     double d = rise + rise;
     while (true) {
+        ++passes;
         const Trial trial = sump.try_depth(d);
         if (!trial.goes_on) {
+            if (formula::workings != nullptr) {
+                tell_depth(flow, d, passes);
+            }
             return d;
         }
         if (may_pass(trial)) {

@@ -1,5 +1,6 @@
 #include "engine/solvers/CISI_CG_RESULTS.h"
 
+#include "engine/constants.h"
 #include "engine/hydraulics/approach_spread.h"
 #include "engine/hydraulics/inlet_repairs.h"
 #include "engine/results.h"
@@ -51,7 +52,7 @@ void read_inputs() {
     step(6, s.Sw, [] { return number_in(GUTXSLOPE); });
     step(7, s.Wa, [] { return number_in(LOCDEPWIDTH); });
     // A blank inlet slope is that of the gutter here, that of the pavement in a sump; the difference is deliberate.
-    fill_blank(8, INLETXSLOPE, open_inlet.text(GUTXSLOPE));
+    fill_blank(8, INLETXSLOPE, GUTXSLOPE);
     raise_inlet_slope(10, pavement_slope);
     step(12, s.SdashW, [] { return number_in(INLETXSLOPE); });
     fill_blank(13, GRATEPERCLOG, "0");
@@ -65,7 +66,7 @@ void find_spread() {
     step(18, OPENSPREAD, [&s] { return s.T; });
 }
 
-bool is_depressed() {
+auto is_depressed() {
     return sheet.Wa != 0.0 && sheet.a != 0.0;
 }
 
@@ -107,8 +108,7 @@ void find_depression_slope() {
         }
     } else if (!holds(39, [&s] { return s.Wa <= 0.0 || s.a <= 0.0; })) {
         if (holds(40, [&s] { return s.W > 0.0 && s.Sw > s.Sx; })) {
-            const auto width = [&s] { return s.Wa < s.W ? s.W : s.Wa; };
-            step(41, s.SdashD, [&s, &width] { return (s.a + (s.Sw - s.Sx) * s.W) / width(); });
+            step(41, s.SdashD, [&s] { return (s.a + (s.Sw - s.Sx) * s.W) / larger(s.Wa, s.W); });
         } else if (holds(42, [&s] { return s.W == 0.0 || s.Sw == s.Sx; })) {
             step(43, s.SdashD, [&s] { return s.a / s.Wa; });
         }
@@ -122,8 +122,7 @@ void find_interception_length() {
     step(46, s.Se, [&s] { return rounded(s.Se, "0.0000"); });
     step(47, COMPXSLOPE, [&s] { return s.Se; });
     step(48, s.LT, [&s] {
-        return unit_constants.curbLengthConstant * power(s.Q, 0.42) * power(s.S, 0.3) *
-               power(1.0 / (s.n * s.Se), 0.6);
+        return constants::K_L() * power(s.Q, 0.42) * power(s.S, 0.3) * power(1.0 / (s.n * s.Se), 0.6);
     });
     step(49, INTLEN, [&s] { return s.LT; });
 }
@@ -132,10 +131,10 @@ void find_depth_and_velocity() {
     auto& s = sheet;
     step(50, s.ag, [&s] { return (s.Sw - s.Sx) * s.W; });
     if (holds(51, [&s] { return s.T > s.W; })) {
-        step(52, s.Dc, [&s] { return (s.T * s.Sx + s.ag) * unit_constants.depthFactor; });
+        step(52, s.Dc, [&s] { return (s.T * s.Sx + s.ag) * constants::depthFactor(); });
         step(53, s.A, [&s] { return 0.5 * square(s.T) * s.Sx + 0.5 * s.ag * s.W; });
     } else {
-        step(54, s.Dc, [&s] { return s.T * s.Sw * unit_constants.depthFactor; });
+        step(54, s.Dc, [&s] { return s.T * s.Sw * constants::depthFactor(); });
         step(55, s.A, [&s] { return 0.5 * square(s.T) * s.Sw; });
     }
     step(56, CURBDEPTH, [&s] { return s.Dc; });

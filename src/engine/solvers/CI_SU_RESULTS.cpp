@@ -1,5 +1,6 @@
 #include "engine/solvers/CI_SU_RESULTS.h"
 
+#include "engine/constants.h"
 #include "engine/hydraulics/approach_spread.h"
 #include "engine/hydraulics/inlet_repairs.h"
 #include "engine/hydraulics/sump_inlets.h"
@@ -67,7 +68,7 @@ void read_inputs() {
     step(12, s.Sx, [] { return number_in(PAVXSLOPE); });
     step(13, s.Sw, [] { return number_in(GUTXSLOPE); });
     // A blank inlet slope is that of the pavement here, that of the gutter on grade; the difference is deliberate.
-    fill_blank(14, INLETXSLOPE, open_inlet.text(PAVXSLOPE));
+    fill_blank(14, INLETXSLOPE, PAVXSLOPE);
     raise_inlet_slope(16, s.Sx);
     step(18, s.SdashW, [] { return number_in(INLETXSLOPE); });
     step(19, s.Wa, [] { return number_in(LOCDEPWIDTH); });
@@ -87,9 +88,8 @@ void find_gutter_spread() {
 
 void find_weir_depth() {
     auto& s = sheet;
-    const Real length_limit = static_cast<double>(unit_constants.curbLengthLimit);
-    step(28, s.h, [&s] { return s.ht / unit_constants.depthFactor; });
-    if (holds(29, [&s, length_limit] { return s.L > length_limit || s.Wa == 0.0; })) {
+    step(28, s.h, [&s] { return s.ht / constants::depthFactor(); });
+    if (holds(29, [&s] { return s.L > constants::curbLengthLimit() || s.Wa == 0.0; })) {
         step(30, s.P, [&s] { return s.L; });
         step(31, s.Cw, [] { return Real(weirCoefficientPlain()); });
     } else if (holds(32, [&s] { return s.Wa > 0.0; })) {
@@ -101,18 +101,16 @@ void find_weir_depth() {
 
 void find_orifice_depth() {
     auto& s = sheet;
-    const Throat throat = throat_named(open_inlet.text(THROATYPE));
-    step(36, s.orifice_depth, [&s] {
-        return square(s.Q / (orifice_coefficient * s.h * s.L)) / (2.0 * Real(unit_constants.gravity));
-    });
-    if (holds(37, [throat] { return throat == Throat::horizontal; })) {
+    step(36, s.orifice_depth,
+         [&s] { return square(s.Q / (orifice_coefficient * s.h * s.L)) / (2.0 * constants::g()); });
+    if (holds(37, [] { return says(THROATYPE, words::horizontal_throat); })) {
         step(38, s.ho, [&s] { return s.orifice_depth + s.h / 2.0; });
     }
-    if (holds(39, [throat] { return throat == Throat::inclined; })) {
+    if (holds(39, [] { return says(THROATYPE, words::inclined_throat); })) {
         step(40, s.radians, [&s] { return in_radians(s.angle); });
         step(41, s.ho, [&s] { return s.orifice_depth + s.h / 2.0 * sine(s.radians); });
     }
-    if (holds(42, [throat] { return throat == Throat::vertical; })) {
+    if (holds(42, [] { return says(THROATYPE, words::vertical_throat); })) {
         step(43, s.ho, [&s] { return s.orifice_depth; });
     }
 }
@@ -141,10 +139,10 @@ void find_spread_and_depths() {
     if (holds(56, [&s] { return s.Tw > s.To; })) {
         step(57, s.To, [&s] { return s.Tw; });
     }
-    step(58, s.Dt, [&s] { return (s.To * s.Sx + s.Wa * (s.Sw - s.Sx) + s.a) * unit_constants.depthFactor; });
+    step(58, s.Dt, [&s] { return (s.To * s.Sx + s.Wa * (s.Sw - s.Sx) + s.a) * constants::depthFactor(); });
     step(59, OPENSPREAD, [&s] { return s.To; });
     step(60, EFFPERI, [&s] { return s.P; });
-    step(61, CURBDEPTH, [&s] { return s.To * s.Sx * unit_constants.depthFactor; });
+    step(61, CURBDEPTH, [&s] { return s.To * s.Sx * constants::depthFactor(); });
     step(62, DEPTHATINLET, [&s] { return s.Dt; });
     step(63, QINT, [&s] { return s.Q; });
 }

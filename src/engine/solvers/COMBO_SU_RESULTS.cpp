@@ -1,5 +1,6 @@
 #include "engine/solvers/COMBO_SU_RESULTS.h"
 
+#include "engine/constants.h"
 #include "engine/hydraulics/approach_spread.h"
 #include "engine/hydraulics/inlet_repairs.h"
 #include "engine/hydraulics/sump_inlets.h"
@@ -46,7 +47,7 @@ struct Sheet : SumpFlows {
 
 Sheet sheet;
 
-std::string perimeter_that_clogging_leaves() {
+auto perimeter_that_clogging_leaves() {
     return clogged_perimeter(sheet.P, sheet.L, sheet.C);
 }
 
@@ -91,28 +92,33 @@ void find_gutter_spread() {
 
 void find_throat() {
     auto& s = sheet;
-    step(34, s.h, [&s] { return s.ht / unit_constants.depthFactor; });
+    step(34, s.h, [&s] { return s.ht / constants::depthFactor(); });
     s.throat = throat_named(open_inlet.text(THROATYPE));
-    if (holds(35, [&s] { return s.throat == Throat::inclined; })) {
+    if (holds(35, [] { return says(THROATYPE, words::inclined_throat); })) {
         step(36, s.radians, [&s] { return in_radians(s.angle); });
     }
 }
 
-Real depth_over_grate_and_opening() {
+auto depth_over_grate_and_opening() {
     const auto& s = sheet;
-    return compute_sump_depth({.Q = s.Q,
-                               .A = s.Ae,
-                               .g = unit_constants.gravity,
-                               .B = s.h,
-                               .h = s.h,
-                               .C = s.L,
-                               .throat = s.throat,
-                               .angle = s.radians});
+    return formula::called(
+        "sump_depth",
+        [&s] {
+            return compute_sump_depth({.Q = s.Q,
+                                       .A = s.Ae,
+                                       .g = unit_constants.gravity,
+                                       .B = s.h,
+                                       .h = s.h,
+                                       .C = s.L,
+                                       .throat = s.throat,
+                                       .angle = s.radians});
+        },
+        s.Q, s.Ae, s.h, s.L);
 }
 
 void find_depth() {
     auto& s = sheet;
-    const Real grateWeirCoefficient = by_units(3.0F, 1.6F);  // 32-bit by nature
+    const formula::Named grateWeirCoefficient("Cg", by_units(3.0F, 1.6F));  // 32-bit by nature
     step(37, s.Ae, [&s] { return (1.0 - s.C / 100.0) * s.A; });
     step(38, s.Pe, [] { return number_in(EFFPERI); });
     if (holds(39, [&s] { return s.C != 100.0 && s.P != 0.0 && s.A != 0.0; })) {
@@ -123,10 +129,9 @@ void find_depth() {
         }
     } else {
         // The shorter exponent belongs to the curb opening, deliberately.
-        step(43, s.weir_depth, [&s] { return power(s.Q / (unit_constants.weirCoefficient * s.L), 0.667); });
-        step(44, s.orifice_depth, [&s] {
-            return square(s.Q / (orifice_coefficient * s.h * s.L)) / (2.0 * Real(unit_constants.gravity));
-        });
+        step(43, s.weir_depth, [&s] { return power(s.Q / (constants::Cw() * s.L), 0.667); });
+        step(44, s.orifice_depth,
+             [&s] { return square(s.Q / (orifice_coefficient * s.h * s.L)) / (2.0 * constants::g()); });
     }
     if (holds(45, [&s] { return s.weir_depth >= s.orifice_depth; })) {
         step(46, s.d, [&s] { return s.weir_depth; });
@@ -155,14 +160,14 @@ void find_spread_at_inlet() {
 
 void write_results() {
     auto& s = sheet;
-    step(57, DEPTHATINLET, [&s] { return s.di * unit_constants.depthFactor; });
+    step(57, DEPTHATINLET, [&s] { return s.di * constants::depthFactor(); });
     step(58, OPENSPREAD, [&s] { return s.Ti; });
     step(59, RAREA, [&s] { return s.Ae; });
     step(60, RPERI, [&s] { return s.Pe; });
     if (holds(61, [&s] { return s.Ti > s.Tg; })) {
-        step(62, CURBDEPTH, [&s] { return s.Ti * s.Sx * unit_constants.depthFactor; });
+        step(62, CURBDEPTH, [&s] { return s.Ti * s.Sx * constants::depthFactor(); });
     } else {
-        step(63, CURBDEPTH, [&s] { return s.Tg * s.Sx * unit_constants.depthFactor; });
+        step(63, CURBDEPTH, [&s] { return s.Tg * s.Sx * constants::depthFactor(); });
     }
     step(64, QINT, [&s] { return s.Q; });
 }

@@ -1,5 +1,6 @@
 #include "engine/solvers/GI_SU_RESULTS.h"
 
+#include "engine/constants.h"
 #include "engine/hydraulics/approach_spread.h"
 #include "engine/hydraulics/inlet_repairs.h"
 #include "engine/hydraulics/sump_inlets.h"
@@ -77,9 +78,9 @@ void find_depth() {
     auto& s = sheet;
     step(29, s.Ae, [&s] { return (1.0 - s.C / 100.0) * s.A; });
     step(30, s.Pe, [] { return number_in(EFFPERI); });
-    step(31, s.weir_depth, [&s] { return power(s.Q / (unit_constants.weirCoefficient * s.Pe), 0.6667); });
+    step(31, s.weir_depth, [&s] { return power(s.Q / (constants::Cw() * s.Pe), 0.6667); });
     step(32, s.orifice_depth,
-         [&s] { return square(s.Q / (orifice_coefficient * s.Ae)) / (2.0 * Real(unit_constants.gravity)); });
+         [&s] { return square(s.Q / (orifice_coefficient * s.Ae)) / (2.0 * constants::g()); });
     if (holds(33, [&s] { return s.weir_depth > s.orifice_depth; })) {
         step(34, s.d, [&s] { return s.weir_depth; });
         step(35, INLETPERF, [] { return words::weir_flow; });
@@ -117,11 +118,11 @@ void write_results() {
     step(51, RAREA, [&s] { return s.Ae; });
     step(52, RPERI, [&s] { return s.Pe; });
     if (holds(53, [&s] { return s.Ti > s.Tg; })) {
-        step(54, CURBDEPTH, [&s] { return s.Ti * s.Sx * unit_constants.depthFactor; });
+        step(54, CURBDEPTH, [&s] { return s.Ti * s.Sx * constants::depthFactor(); });
     } else {
-        step(55, CURBDEPTH, [&s] { return s.Tg * s.Sx * unit_constants.depthFactor; });
+        step(55, CURBDEPTH, [&s] { return s.Tg * s.Sx * constants::depthFactor(); });
     }
-    step(56, DEPTHATINLET, [&s] { return unit_constants.depthFactor * s.di; });
+    step(56, DEPTHATINLET, [&s] { return constants::depthFactor() * s.di; });
     step(57, QINT, [&s] { return s.Q; });
 }
 

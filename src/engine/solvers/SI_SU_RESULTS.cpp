@@ -1,5 +1,6 @@
 #include "engine/solvers/SI_SU_RESULTS.h"
 
+#include "engine/constants.h"
 #include "engine/hydraulics/approach_spread.h"
 #include "engine/hydraulics/inlet_repairs.h"
 #include "engine/hydraulics/sump_inlets.h"
@@ -71,20 +72,19 @@ void find_gutter_spread() {
     step(24, GUTTERSPREAD, [&s] { return s.T; });
     // Both slopes over their own widths, unlike the drop below the pavement slope that is used on grade.
     if (holds(25, [&s] { return s.T > s.W; })) {
-        step(26, CURBDEPTH, [&s] { return ((s.T - s.W) * s.Sx + s.W * s.Sw) * unit_constants.depthFactor; });
+        step(26, CURBDEPTH, [&s] { return ((s.T - s.W) * s.Sx + s.W * s.Sw) * constants::depthFactor(); });
     } else {
-        step(27, CURBDEPTH, [&s] { return s.T * s.Sw * unit_constants.depthFactor; });
+        step(27, CURBDEPTH, [&s] { return s.T * s.Sw * constants::depthFactor(); });
     }
 }
 
 void find_depths() {
     auto& s = sheet;
-    step(28, s.w, [&s] { return s.wt / unit_constants.depthFactor; });
+    step(28, s.w, [&s] { return s.wt / constants::depthFactor(); });
     step(29, s.L, [] { return number_in(INLETLENGTH) * (1.0 - number_in(GRATEPERCLOG) / 100.0); });
-    step(30, s.weir_depth, [&s] { return power(s.Q / (unit_constants.weirCoefficient * s.L), 0.667); });
-    step(31, s.orifice_depth, [&s] {
-        return square(s.Q / (slot_orifice_coefficient * s.L * s.w)) / (2.0 * Real(unit_constants.gravity));
-    });
+    step(30, s.weir_depth, [&s] { return power(s.Q / (constants::Cw() * s.L), 0.667); });
+    step(31, s.orifice_depth,
+         [&s] { return square(s.Q / (slot_orifice_coefficient * s.L * s.w)) / (2.0 * constants::g()); });
 }
 
 void choose_regime() {
@@ -108,7 +108,7 @@ void write_results() {
     step(41, s.To, [&s] { return s.D / s.Sx; });
     step(42, OPENSPREAD, [&s] { return s.To; });
     step(43, EFFLEN, [&s] { return s.L; });
-    step(44, DEPTHATINLET, [&s] { return unit_constants.depthFactor * s.Dt; });
+    step(44, DEPTHATINLET, [&s] { return constants::depthFactor() * s.Dt; });
     step(45, QINT, [&s] { return s.Q; });
 }
 

@@ -1,5 +1,6 @@
 #include "engine/solvers/TRAP_CG_RESULTS.h"
 
+#include "engine/constants.h"
 #include "engine/hydraulics/Common_Libraries.h"
 #include "engine/hydraulics/grate_types.h"
 #include "engine/results.h"
@@ -53,17 +54,20 @@ void find_depth() {
     step(6, s.zr, [] { return number_in(RSCOPERATIO); });
     step(7, s.Wg, [] { return number_in(GRATEWIDTH); });
     step(8, s.y, [&s] {
-        return compute_ditch_depth(unit_constants.manningConstant, s.Q, s.S, s.n, s.B, s.zl, s.zr);
+        return formula::called(
+            "ditch_depth",
+            [&s] {
+                return compute_ditch_depth(unit_constants.manningConstant, s.Q, s.S, s.n, s.B, s.zl, s.zr);
+            },
+            s.Q, s.S, s.n, s.B, s.zl, s.zr);
     });
-    step(9, CURBDEPTH, [&s] { return unit_constants.depthFactor * s.y; });
+    step(9, CURBDEPTH, [&s] { return constants::depthFactor() * s.y; });
 }
 
 /// The two standard inlets that are shown with the depth of the ditch and nothing else.
 bool has_depth_alone() {
-    const bool alone = holds(10, [] {
-        const auto& subtype = open_inlet.text(INLET_SUBTYPE);
-        return subtype == "X - DI Grate" || subtype == "X - Welded Steel";
-    });
+    const bool alone = holds(
+        10, [] { return says(INLET_SUBTYPE, "X - DI Grate") || says(INLET_SUBTYPE, "X - Welded Steel"); });
     if (alone) {
         step(11, sheet.Wg, [] { return Real(X_grate_width); });
     }
@@ -105,8 +109,8 @@ void find_efficiency() {
     find_side_slope();
     step(41, FFLOWEFF, [&s] { return s.frontal.Rf; });
     step(42, s.Rs, [&s] {
-        const Real length = s.frontal.length;
-        return 1.0 / (unit_constants.sideFlowConstant * power(s.V, 1.8) / (power(length, 2.3) * s.Ss) + 1.0);
+        const auto& length = s.frontal.length;
+        return 1.0 / (constants::K_s() * power(s.V, 1.8) / (power(length, 2.3) * s.Ss) + 1.0);
     });
     step(43, SFLOWEFF, [&s] { return s.Rs; });
     step(44, s.E, [&s] { return s.Eo * s.frontal.Rf + (1.0 - s.Eo) * s.Rs; });
@@ -124,7 +128,7 @@ void find_interception() {
     step(51, QCARRY, [&s] { return s.Qc; });
     step(52, s.Pr, [&s] { return 2.0 * (s.frontal.length + s.Wg); });
     // In ft or m: the one depth that is not turned into in or mm.
-    step(53, DSBH, [&s] { return power(s.Q / (unit_constants.weirCoefficient * s.Pr), 0.67); });
+    step(53, DSBH, [&s] { return power(s.Q / (constants::Cw() * s.Pr), 0.67); });
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <array>
 #include <limits>
 
+#include "engine/constants.h"
 #include "engine/hydraulics/sump_march.h"
 #include "engine/results.h"
 #include "engine/step.h"
@@ -15,6 +16,8 @@ namespace gullymark::engine::TRAP_SU_RESULTS {
 namespace {
 
 using enum Column;
+using formula::decides;
+using formula::Taken;
 
 struct Sheet {
     Quantity Q{"Q", Unit::discharge, "flow that the inlet must take"};
@@ -54,31 +57,28 @@ constexpr auto half_clogged_rating = std::to_array<Piece>({
 });
 
 template <std::size_t Count>
-Real depth_on(const std::array<Piece, Count>& rating, Real Q) {
-    const auto* const piece =
-        std::find_if(rating.begin(), rating.end() - 1, [Q](const Piece& each) { return Q < each.below; });
-    return piece->slope * Q + piece->constant;
+Taken depth_on(const std::array<Piece, Count>& rating, const Quantity& Q) {
+    const auto* const piece = std::find_if(rating.begin(), rating.end() - 1,
+                                           [&Q](const Piece& each) { return decides(Q < each.below); });
+    return Taken(piece->slope * Q + piece->constant);
 }
 
 /// The rated depth; 0 for any clogging but 0 and 50 percent.
-Real rated_depth(Real C, Real Q) {
-    if (C == 0.0) {
-        return Q < 1.0 ? 0.255 + 0.0741 * natural_logarithm(Q) : depth_on(clean_rating, Q);
+Taken rated_depth(const Quantity& C, const Quantity& Q) {
+    if (decides(C == 0.0)) {
+        return decides(Q < 1.0) ? Taken(0.255 + 0.0741 * natural_logarithm(Q)) : depth_on(clean_rating, Q);
     }
-    return C == 50.0 ? depth_on(half_clogged_rating, Q) : Real(0.0);
+    return decides(C == 50.0) ? depth_on(half_clogged_rating, Q) : Taken(formula::Named(0.0));
 }
 
 bool is_rated() {
-    return strict_holds(3, [] {
-        const auto& subtype = open_inlet.text(INLET_SUBTYPE);
-        return subtype == "Y-Weld" || subtype == "Y-DI Gr";
-    });
+    return strict_holds(3, [] { return says(INLET_SUBTYPE, "Y-Weld") || says(INLET_SUBTYPE, "Y-DI Gr"); });
 }
 
 void use_rating() {
     auto& s = sheet;
     strict_step(4, s.d, [&s] { return rated_depth(s.C, s.Q); });
-    strict_step(5, DEPTHATINLET, [&s] { return unit_constants.depthFactor * s.d; });
+    strict_step(5, DEPTHATINLET, [&s] { return constants::depthFactor() * s.d; });
 }
 
 void use_dimensions() {
@@ -86,11 +86,9 @@ void use_dimensions() {
     strict_step(6, s.P, [] { return number_in(GRATEPERI); });
     strict_step(7, s.A, [] { return number_in(GRATEAREA); });
     strict_step(8, s.Wg, [] { return number_in(GRATEWIDTH); });
-    strict_step(9, s.weir_depth,
-                [&s] { return power(s.Q / (unit_constants.weirCoefficient * s.P), 0.6667); });
-    strict_step(10, s.orifice_depth, [&s] {
-        return square(s.Q / (s.A * orifice_coefficient)) / (2.0 * Real(unit_constants.gravity));
-    });
+    strict_step(9, s.weir_depth, [&s] { return power(s.Q / (constants::Cw() * s.P), 0.6667); });
+    strict_step(10, s.orifice_depth,
+                [&s] { return square(s.Q / (s.A * orifice_coefficient)) / (2.0 * constants::g()); });
     if (strict_holds(11, [&s] { return s.weir_depth > s.orifice_depth; })) {
         strict_step(12, s.d, [&s] { return s.weir_depth; });
         strict_step(13, INLETPERF, [] { return words::weir_flow; });
@@ -98,7 +96,7 @@ void use_dimensions() {
         strict_step(14, s.d, [&s] { return s.orifice_depth; });
         strict_step(15, INLETPERF, [] { return words::orifice_flow; });
     }
-    strict_step(16, DEPTHATINLET, [&s] { return unit_constants.depthFactor * s.d; });
+    strict_step(16, DEPTHATINLET, [&s] { return constants::depthFactor() * s.d; });
     strict_step(17, RAREA, [&s] { return s.A; });
     strict_step(18, RPERI, [&s] { return s.P; });
     strict_step(19, QINT, [&s] { return s.Q; });
