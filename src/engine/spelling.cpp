@@ -195,7 +195,7 @@ std::vector<Column> columns_in(const Spelling& spelling) {
     return columns;
 }
 
-std::vector<std::string> lines_of(const Spelling& formula, const std::vector<Working>& workings,
+std::vector<std::string> lines_of(const Spelling& formula, const std::vector<Working>& worked,
                                   std::string_view lead, Style numbers) {
     std::vector<std::string> lines;
     if (formula.kind != Spelling::Kind::nothing) {
@@ -210,7 +210,7 @@ std::vector<std::string> lines_of(const Spelling& formula, const std::vector<Wor
         lines.push_back("reads " + std::string(column_name(column)) + ' ' +
                         quoted(*text_read(formula, column)) + ": " + std::string(column_meaning(column)));
     }
-    for (const auto& working : workings) {
+    for (const auto& working : worked) {
         lines.push_back("- " + head_of(working));
         const bool asks = working.kind == Working::Kind::condition;
         auto inner = lines_of(working.formula, {}, asks ? "if " : "= ", numbers);
