@@ -76,6 +76,43 @@ for my $path (glob('src/shell/windows/*_view.ui')) {
     }
 }
 
+# The page on defaults has those of a new inlet, the last one where a field has two.
+my %default_named = (
+    allowable_spread => 'ALLOWABLE SPREAD',
+    cboLCOUG         => 'LENGTH OF CURB OPENING',
+    cboLength        => 'INLET LENGTH',
+    curb_height      => 'CURB HEIGHT',
+    txtAngle         => '',                             # fixed by the throat
+    txtArea          => 'GRATE AREA',
+    txtPeri          => 'GRATE PERIMETER',
+    txtS             => 'GUTTER LONGITUDINAL SLOPE',
+    txtSdashW        => 'INLET CROSS SLOPE',
+    txtSw            => 'GUTTER CROSS SLOPE',
+    txtSx            => 'PAVEMENT CROSS SLOPE',
+    txtW             => 'GUTTER WIDTH',
+    txtWa            => 'WIDTH OF LOCAL DEPRESSION',
+    txtWg            => 'GRATE WIDTH',
+    txta             => 'AMOUNT OF LOCAL DEPRESSION',
+    txthco           => 'HEIGHT OF CURB OPENING',
+    txtn             => 'MANNINGS',
+    txtslotw         => 'SLOT WIDTH',
+    txtzl            => 'Side slope ratios',
+    txtzr            => 'Side slope ratios',
+);
+my ($new_inlet) = read_text('src/editor/form/default_texts.cpp') =~ /new_inlet_defaults = (.*?)\n\}\);/s;
+my %defaults = map { /\{(\w+), +"(.*?)", +"(.*?)"\}/ ? ($1 => [$2, $3]) : () } split /\n/, $new_inlet // '';
+complain('src/editor/form/default_texts.cpp has no defaults of a new inlet') unless %defaults;
+for my $field (sort keys %defaults) {
+    my $name = $default_named{$field};
+    if (!defined $name) {
+        complain("$field has no name in the help");
+        next;
+    }
+    my ($english, $metric) = map { quotemeta } @{$defaults{$field}};
+    next if $name eq '' || $pages{defaults} =~ /\|\Q$name\E\|$english( \w+)?\|$metric( \w+)?\|/;
+    complain("defaults.html does not have @{$defaults{$field}} for $name");
+}
+
 # A table of tests/cases as a list of rows by heading.
 sub read_table {
     my @lines = split /\n/, read_text("tests/cases/$_[0]");
