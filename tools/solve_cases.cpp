@@ -99,8 +99,15 @@ void compare_table(const Request& request, const std::string& path, Count& count
     }
 }
 
+void tell_formula(const engine::TraceLine& line, engine::formula::Style numbers) {
+    for (const auto& formula : engine::describe_formula(line, numbers)) {
+        std::cout << "      " << formula << '\n';
+    }
+}
+
 /// The columns that a solve changed, as they stand when it is over: results in their format, inputs that were repaired.
-void tell_changes(const std::vector<std::string>& before) {
+void tell_changes(const std::vector<std::string>& before, const std::vector<engine::TraceLine>& roundings,
+                  engine::formula::Style numbers) {
     for (std::size_t i = 0; i < engine::all_columns.size(); ++i) {
         const auto column = engine::all_columns[i];
         const auto& text = engine::open_inlet.text(column);
@@ -108,6 +115,11 @@ void tell_changes(const std::vector<std::string>& before) {
             const auto unit = engine::unit_text(engine::column_unit(column));
             std::cout << engine::column_name(column) << " = \"" << text << '"' << (unit.empty() ? "" : " ")
                       << unit << "  " << engine::column_meaning(column) << '\n';
+            for (const auto& rounding : roundings) {
+                if (rounding.symbol == engine::column_name(column)) {
+                    tell_formula(rounding, numbers);
+                }
+            }
         }
     }
 }
@@ -124,21 +136,20 @@ void trace_row(const std::string& path, std::size_t line, engine::formula::Style
         before.push_back(engine::open_inlet.text(column));
     }
     std::vector<engine::TraceLine> trace;
-    engine::onlooker.trace = &trace;
+    std::vector<engine::TraceLine> roundings;
+    engine::onlooker = {.trace = &trace, .roundings = &roundings};
     const auto computed = cases::solve_row(table, row);
-    engine::onlooker.trace = nullptr;
+    engine::onlooker = {};
 
     std::cout << path << ':' << line << ": " << cases::cell(table, row, "INLET_TYPE") << ", "
               << cases::cell(table, row, "INLET_LOCATION") << ", " << cases::cell(table, row, "UNITS")
               << '\n';
     for (const auto& step : trace) {
         std::cout << engine::describe(step) << '\n';
-        for (const auto& formula : engine::describe_formula(step, numbers)) {
-            std::cout << "      " << formula << '\n';
-        }
+        tell_formula(step, numbers);
     }
     std::cout << "solved: " << computed.at("solved") << "\nmessages: " << computed.at("messages") << '\n';
-    tell_changes(before);
+    tell_changes(before, roundings, numbers);
 }
 
 int run(const std::vector<std::string>& arguments) {

@@ -35,6 +35,11 @@ Outcome read_number(std::string_view text) {
     return Real(read.number);
 }
 
+double decimals_of(std::string_view format) {
+    const auto point = format.find('.');
+    return point == std::string_view::npos ? 0.0 : static_cast<double>(format.size() - point - 1);
+}
+
 std::string text_in_format(Real number, std::string_view format) {
     return platform::format_number(number.number(), format);
 }

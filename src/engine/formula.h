@@ -220,6 +220,9 @@ struct Larger : Node {
     [[nodiscard]] Spelling spelled() const { return spell_call("max", {left.spelled(), right.spelled()}); }
 };
 
+/// How many decimals a format has: 3 for "#0.000".
+double decimals_of(std::string_view format);
+
 /// What a number is as a text with a fixed count of decimals, halves away from zero on its 15 digits; and what that text reads.
 template <Tree T>
 struct Rounded : Node {
@@ -232,8 +235,7 @@ struct Rounded : Node {
     operator Real() const { return value(); }
     operator std::string() const { return text(); }
     [[nodiscard]] Spelling spelled() const {
-        return spell_call("round",
-                          {inner.spelled(), Named(static_cast<double>(format.size() - 2)).spelled()});
+        return spell_call("round", {inner.spelled(), Named(decimals_of(format)).spelled()});
     }
 };
 std::string text_in_format(Real number, std::string_view format);

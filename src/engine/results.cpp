@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "engine/inlet_record.h"
+#include "engine/step.h"
 #include "engine/unit_constants.h"
 #include "platform/number_text.h"
 
@@ -23,6 +24,18 @@ constexpr auto result_columns = std::to_array<ResultColumn>({
 #include "engine/inlet_columns.def"
 });
 
+/// What the rounding of a column does, for the trace that somebody takes.
+void note_rounding(Column column, std::string_view decimals) {
+    const std::string& text = open_inlet.text(column);
+    const formula::Named unrounded(column_name(column), formula::read_number(text));
+    onlooker.roundings->push_back({.kind = TraceLine::Kind::text,
+                                   .unit = column_unit(column),
+                                   .symbol = column_name(column),
+                                   .meaning = column_meaning(column),
+                                   .text = platform::format_text(text, decimals),
+                                   .formula = rounded(unrounded, decimals).spelled()});
+}
+
 }  // namespace
 
 void clear_results() {
@@ -39,6 +52,9 @@ void format_results() {
         }
         const std::string_view decimals =
             format == ResultFormat::four_decimals ? "0.0000" : std::string_view(unit_constants.numberFormat);
+        if (onlooker.roundings != nullptr) {
+            note_rounding(column, decimals);
+        }
         open_inlet.set(column, platform::format_text(text, decimals));
     }
 }

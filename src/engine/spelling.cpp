@@ -12,6 +12,9 @@ namespace {
 
 constexpr int short_digits = 6;
 
+// What is rounded shows the 15 digits that it is rounded on.
+constexpr std::string_view rounding = "round";
+
 // Below, six digits tell a number without an exponent.
 constexpr double short_end = 1e6;
 
@@ -87,7 +90,10 @@ std::string text_of_operation(const Spelling& spelling, Style style) {
 std::string text_of_call(const Spelling& spelling, Style style) {
     std::string text = std::string(spelling.sign) + '(';
     for (const auto& part : spelling.parts) {
-        text += (&part == &spelling.parts.front() ? "" : ", ") + text_of(part, style);
+        const bool is_rounded = style == Style::numbers && spelling.sign == rounding &&
+                                part.kind == Spelling::Kind::number && part.fault == Fault::none;
+        text += &part == &spelling.parts.front() ? "" : ", ";
+        text += is_rounded ? platform::number_text(part.number) : text_of(part, style);
     }
     return text + ')';
 }

@@ -85,9 +85,9 @@ struct Working {
     std::string text{};
 };
 
-/// The lines in which a formula and its workings are written, without indent: "= W / T", "= 2 / 6.94661", the columns
+/// The lines in which a formula and those of its functions are written, without indent: "= W / T", "= 2 / 6.94661", the columns
 /// that are read, then each working with its own lines two blanks further in. `lead` stands before the formula.
-std::vector<std::string> lines_of(const Spelling& formula, const std::vector<Working>& workings,
+std::vector<std::string> lines_of(const Spelling& formula, const std::vector<Working>& worked,
                                   std::string_view lead, Style numbers);
 
 }  // namespace gullymark::engine::formula

@@ -52,7 +52,9 @@ std::string_view fault_text(Fault fault);
 /// Who looks on while steps run. Nobody, most of the time.
 struct Onlooker {
     std::vector<TraceLine>* trace = nullptr;  // takes a line for every step while it is set
-    int tripped_step = 0;                     // this step faults, whatever its formula; 0 for none
+    std::vector<TraceLine>* roundings =
+        nullptr;           // takes a line, of no step, for every result that is rounded at the end
+    int tripped_step = 0;  // this step faults, whatever its formula; 0 for none
 };
 
 extern Onlooker onlooker;

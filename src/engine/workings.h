@@ -81,6 +81,7 @@ struct Taken : Node {
     Outcome number;
     std::shared_ptr<const Spelling> spelling{};
 
+    explicit Taken(Real value) : number(value) {}
     template <Tree T>
     explicit Taken(const T& tree) : number(outcome_of(tree)) {
         if (workings != nullptr) {

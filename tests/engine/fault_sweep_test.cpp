@@ -189,6 +189,8 @@ TEST_P(FaultSweep, EveryStepCanFaultAlone) {
                 EXPECT_TRUE(line.step >= 1 && line.step <= GetParam().steps) << line.step;
                 SCOPED_TRACE(std::string(units) + " step " + std::to_string(line.step) + ' ' +
                              std::string(line.symbol));
+                EXPECT_NE(text_of(line.formula, formula::Style::symbols), "") << "prints no formula";
+                EXPECT_NE(text_of(line.formula, formula::Style::numbers), "") << "prints no formula";
                 solve(inlet, 0);
                 const auto tripped = solve(inlet, line.step);
                 expect_target_kept(inlet, plain, tripped, line.step);

@@ -109,6 +109,8 @@ TEST_F(Formulas, ARoundedNumberIsANumberAndAText) {
     EXPECT_EQ(Se.value(), 0.2555);
     EXPECT_EQ(Se.text(), "0.2555");
     EXPECT_EQ(symbols(Se), "round(Se, 4)");
+    EXPECT_EQ(symbols(rounded(Q, "#0.000")), "round(Q, 3)");
+    EXPECT_EQ(numbers(rounded(Named("Q", Real(1234.567890625)), "#0.000")), "round(1234.567890625, 3)");
 }
 
 TEST_F(Formulas, AConditionTellsItsReason) {

@@ -42,6 +42,7 @@ tells 'solved: yes'
 tells 'messages: '
 tells 'OPENSPREAD = "6\.947" ft  Spread of water at the opening'
 tells 'QCARRY = "0\.532" cfs  .*'
+tells '      = round\(0\.531837142719848, 3\)'
 # A statement of the sheet for each number, in order; what a condition passes by has none.
 numbers=$(sed -nE 's/^([0-9]+)  .*/\1/p' <<<"$told")
 [ "$(wc -l <<<"$numbers")" -ge 40 ] && sort -nc <<<"$numbers" 2>/dev/null || fail "these steps are not in order:"

@@ -198,7 +198,7 @@ Real spread_or_fault(const Gutter& g) {
         return 0.0;
     }
     const Number within_gutter =
-        let({"Tw", Unit::length, "spread on the gutter slope"}, uniform_spread(g.K, g.Q, g.S, g.n, g.Sw));
+        let({"T_w", Unit::length, "spread on the gutter slope"}, uniform_spread(g.K, g.Q, g.S, g.n, g.Sw));
     return decides(within_gutter > g.W) ? search_composite_spread(g) : Real(within_gutter);
 }
 
@@ -270,6 +270,14 @@ Real search_ditch_depth(const Ditch<Number>& d) {
 }
 
 }  // namespace
+
+formula::Taken side_flow_share(const Quantity& T, const Quantity& W, const Quantity& Sw, const Quantity& Sx) {
+    if (formula::workings == nullptr) {
+        return formula::Taken(side_flow_share(T.value, W.value, Sw.value, Sx.value));
+    }
+    const Named r = let({"r", Unit::ratio, "gutter slope over pavement slope"}, Sw / Sx);
+    return formula::Taken(side_flow_share_of_ratio(Named(T), Named(W), r));
+}
 
 Real compute_uniform_spread(Real K, Real Q, Real S, Real n, Real Sx) {
     return uniform_spread(K, Q, S, n, Sx);

@@ -37,11 +37,12 @@ auto side_flow_share_of_ratio(const Number& T, const Number& W, const Number& r)
 }
 
 /// The same from the two slopes: r = Sw / Sx.
-inline auto side_flow_share(const formula::Named& T, const formula::Named& W, const formula::Named& Sw,
-                            const formula::Named& Sx) {
-    return side_flow_share_of_ratio(
-        T, W, formula::let({"r", Unit::ratio, "gutter slope over pavement slope"}, Sw / Sx));
+inline Real side_flow_share(Real T, Real W, Real Sw, Real Sx) {
+    return side_flow_share_of_ratio(T, W, Sw / Sx);
 }
+
+/// The same for a step, which tells the ratio in a line of its own.
+formula::Taken side_flow_share(const Quantity& T, const Quantity& W, const Quantity& Sw, const Quantity& Sx);
 
 /// Spread on one cross slope: T = ((Q n) / (K Sx^1.67 S^0.5))^(1 / 2.67).
 Real compute_uniform_spread(Real K, Real Q, Real S, Real n, Real Sx);
