@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 
 #include "engine/unit_constants.h"
 
@@ -31,6 +32,23 @@ constexpr auto grate_types = std::to_array<GrateType>({
     {"Reticuline",        "",                      19.53, 1.24,    2.4333, -0.10833, 2.125, 0.33333},
 });
 // clang-format on
+
+/// Which of its fits a grate follows.
+void tell_fit(const GrateType& grate, const char* lengths) {
+    if (formula::workings != nullptr) {
+        formula::note_text("the fit of \"" + std::string(grate.name) + "\" for lengths " + lengths);
+    }
+}
+
+auto line_of(const GrateType& grate, const Named& length) {
+    tell_fit(grate, "between 4.5 and 10 ft");
+    return Named("b1", grate.b1) * length + Named("b0", grate.b0);
+}
+
+auto parabola_of(const GrateType& grate, const Named& length) {
+    tell_fit(grate, "below 4.5 ft");
+    return Named("c2", grate.c2) * square(length) + Named("c1", grate.c1) * length + Named("c0", grate.c0);
+}
 
 }  // namespace
 
@@ -75,14 +93,11 @@ void find_frontal_efficiency(int first, FrontalFlow& frontal, const formula::Nam
     } else if (holds(first + 2, [&] { return length() > short_grate && length() < longest_grate; })) {
         // Only the longer grates have a limit of velocity.
         if (!holds(first + 3, [&] { return V >= Named("Vmax", grate->Vmax); })) {
-            step(first + 4, Vo, [&] { return Named("b1", grate->b1) * length() + Named("b0", grate->b0); });
+            step(first + 4, Vo, [&] { return line_of(*grate, length()); });
             step(first + 5, Rf, by_velocity);
         }
     } else if (holds(first + 6, [&] { return length() > 0.0 && length() < short_grate; })) {
-        step(first + 7, Vo, [&] {
-            return Named("c2", grate->c2) * square(length()) + Named("c1", grate->c1) * length() +
-                   Named("c0", grate->c0);
-        });
+        step(first + 7, Vo, [&] { return parabola_of(*grate, length()); });
         step(first + 8, Rf, by_velocity);
     }
     if (holds(first + 9, [&] { return Rf > 1.0; })) {

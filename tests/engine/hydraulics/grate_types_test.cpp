@@ -47,6 +47,20 @@ TEST_F(Frontal, EveryGrateFollowsItsTwoFitsUnderBothNames) {
     }
 }
 
+TEST_F(Frontal, ATraceTellsWhichFitOfWhichGrateWasTaken) {
+    std::vector<TraceLine> trace;
+    onlooker.trace = &trace;
+    efficiency("P-30", "6", 19.0);
+    EXPECT_EQ(describe_formula(trace[3]),
+              (std::vector<std::string>{"= b1 x INLETLENGTH + b0", "= 1.20029 x 6 + 5.2286",
+                                        "reads INLETLENGTH \"6\": Length of the opening or grate",
+                                        "- the fit of \"P-1-1/8\" for lengths between 4.5 and 10 ft"}));
+    trace.clear();
+    efficiency("Curved Vane", "2", 15.0);
+    EXPECT_EQ(describe_formula(trace[3]).front(), "= c2 x INLETLENGTH^2 + c1 x INLETLENGTH + c0");
+    EXPECT_EQ(describe_formula(trace[3]).back(), "- the fit of \"Curved Vane\" for lengths below 4.5 ft");
+}
+
 TEST_F(Frontal, AnUnknownGrateTakesNothingFromTheFront) {
     for (const auto* name : {"", "P-1-7/8 ", "p-30", "Unknown", "30 Tilt Bar", "30\xB0 Tilt Bar"}) {
         EXPECT_EQ(efficiency(name, "12", 1.0), 0.0) << name;
