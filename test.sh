@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Sets up what is missing, builds everything with the sanitizers and runs every test and check.
+# Sets up what is missing, builds everything with the sanitizers and runs the tests and checks. Those of what only the
+# optimized build has (tests/install) run in a build without a preset.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 

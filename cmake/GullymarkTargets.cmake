@@ -1,4 +1,4 @@
-# How every target of the project is compiled, and the one way to add a library or a test.
+# How every target of the project is compiled, and the one way to add the library of a folder of src, or a test executable.
 
 add_library(gullymark_options INTERFACE)
 target_compile_options(gullymark_options INTERFACE

@@ -2,8 +2,9 @@
 # Installs what is missing of the Debian packages that GullymarkAL needs, and says what it does.
 #
 #   tools/set_up.sh build       to build and run the program
-#   tools/set_up.sh build test  to run every test and check as well
-#   tools/set_up.sh build deb   to make the Debian package; with release, to try it as well
+#   tools/set_up.sh build test  to run the tests and checks as well
+#   tools/set_up.sh build deb   to make the Debian package; with release, to check it as well
+#   tools/set_up.sh build bench, build fuzz   to build the benchmarks, the fuzz targets
 set -euo pipefail
 
 build_packages=(

@@ -2,7 +2,7 @@
 # Tries whether the sources give the same Debian package wherever and whenever it is built: copies them into another
 # folder, builds and packs them there forty days later, and compares the bytes.
 #
-#   tools/try_same_package.sh [BUILD_FOLDER]    packs what was built there, without a build of its own
+#   tools/try_same_package.sh [BUILD_FOLDER]    the first of both packages is packed from what was built there
 #
 # Needs faketime (tools/set_up.sh release) for the later day.
 set -euo pipefail

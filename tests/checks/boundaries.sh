@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# No include reaches from a lower layer into a higher one, Qt stays in the shell, SQLite and the office in the platform.
+# No include reaches from a lower layer into a higher one, Qt stays in the shell, SQLite and the office in the platform; the
+# rooms of the shell keep their order.
 cd "$1" || exit 2
 failed=0
 

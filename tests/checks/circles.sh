@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # A unit is NAME.cpp with NAME.h: one room, whose header tells what its source does. What the units of src include never
-# leads back to them, and inside a folder the arrows run down through its rooms.
+# leads back to them, and inside engine and editor the arrows run down through the rooms; boundaries.sh holds those of shell.
 cd "$1/src" || exit 2
 failed=0
 complain() {

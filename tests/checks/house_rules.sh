@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# What CONTRIBUTING tells of sources and no other check holds: short files, file names, nothing included twice and no
-# source by another, a word on what each header is for, and nothing left for later.
+# What no other check holds of the sources: short files, file names, nothing included twice and no source by another, a word
+# on what each header is for, one way for a text to the toolkit and back, and nothing left for later.
 cd "$1" || exit 2
 failed=0
 complain() {
