@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <deque>
 #include <functional>
 #include <optional>
@@ -111,10 +112,11 @@ class Robot {
 
     void look() {
         QWidget* window = QApplication::activeModalWidget();
-        if (window == nullptr || !window->isVisible() || window == served_) {
+        if (window == nullptr || !window->isVisible() ||
+            std::ranges::find(served_, window) != served_.end()) {
             return;
         }
-        QWidget* outer = std::exchange(served_, window);
+        served_.push_back(window);
         if (look_at) {
             look_at(*window);
         }
@@ -129,7 +131,7 @@ class Robot {
             in_window.pop_front();
             work(*window);
         }
-        served_ = outer;
+        served_.pop_back();
     }
 
     void answer(QMessageBox& box) {
@@ -207,7 +209,8 @@ class Robot {
     }
 
     QObject life_;
-    QWidget* served_ = nullptr;
+    /// From the outermost to the one on top, which may be closed by now, while the one below it is not at work again.
+    std::vector<QWidget*> served_;
 };
 
 }  // namespace gullymark::testing_support
