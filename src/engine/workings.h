@@ -31,8 +31,10 @@ Outcome outcome_of(const T& tree) {
     }
 }
 
+/// A line for the step that runs: a value or why there is none, or a condition's answer. Only while `workings` is set.
 void note_value(const Quantity& target, const Outcome& outcome, Spelling spelling);
 void note_condition(bool holds, Spelling spelling);
+/// A line of plain words; nothing while nobody traces.
 void note_text(std::string_view text);
 
 /// A value within a formula, with a symbol and a line of its own. One that faults does so where the formula uses it.
@@ -74,6 +76,7 @@ struct Search {
     std::size_t passes = 0;
     std::string_view ending;  // in a few words
 };
+/// A line for it; nothing while nobody traces.
 void note_search(const Search& search);
 
 /// Which of the formulas of a function was taken. It has been worked out.

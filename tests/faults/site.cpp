@@ -1,12 +1,11 @@
 #include "faults/site.h"
 
 #include <algorithm>
-#include <fstream>
 #include <iostream>
-#include <sstream>
 #include <utility>
 
 #include "faults/designer.h"
+#include "support/outside_double.h"
 #include "support/sqlite_file.h"
 
 namespace gullymark::faults {
@@ -56,9 +55,7 @@ End run_apart(const std::function<void()>& action, rlim_t processor_seconds) {
 }
 
 std::string bytes_of(const std::string& path) {
-    std::ostringstream bytes;
-    bytes << std::ifstream(path, std::ios::binary).rdbuf();
-    return bytes.str();
+    return testing_support::read_file(path);
 }
 
 std::string content_of(const std::string& path) {
