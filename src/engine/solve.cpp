@@ -25,19 +25,20 @@ struct Solver {
     std::string_view location;
     std::string_view type;
     void (*compute_results)();
+    std::string_view sheet;
 };
 
 constexpr auto solvers = std::to_array<Solver>({
-    {words::continuous_grade, words::curb_inlet, CISI_CG_RESULTS::compute_results},
-    {words::continuous_grade, words::grate_inlet, GI_CG_RESULTS::compute_results},
-    {words::continuous_grade, words::combination_inlet, COMBO_CG_RESULTS::compute_results},
-    {words::continuous_grade, words::slotted_inlet, CISI_CG_RESULTS::compute_results},
-    {words::continuous_grade, words::ditch_inlet, TRAP_CG_RESULTS::compute_results},
-    {words::sump, words::curb_inlet, CI_SU_RESULTS::compute_results},
-    {words::sump, words::grate_inlet, GI_SU_RESULTS::compute_results},
-    {words::sump, words::combination_inlet, COMBO_SU_RESULTS::compute_results},
-    {words::sump, words::slotted_inlet, SI_SU_RESULTS::compute_results},
-    {words::sump, words::ditch_inlet, TRAP_SU_RESULTS::compute_results},
+    {words::continuous_grade, words::curb_inlet, CISI_CG_RESULTS::compute_results, "cisi-cg"},
+    {words::continuous_grade, words::grate_inlet, GI_CG_RESULTS::compute_results, "gi-cg"},
+    {words::continuous_grade, words::combination_inlet, COMBO_CG_RESULTS::compute_results, "combo-cg"},
+    {words::continuous_grade, words::slotted_inlet, CISI_CG_RESULTS::compute_results, "cisi-cg"},
+    {words::continuous_grade, words::ditch_inlet, TRAP_CG_RESULTS::compute_results, "trap-cg"},
+    {words::sump, words::curb_inlet, CI_SU_RESULTS::compute_results, "ci-su"},
+    {words::sump, words::grate_inlet, GI_SU_RESULTS::compute_results, "gi-su"},
+    {words::sump, words::combination_inlet, COMBO_SU_RESULTS::compute_results, "combo-su"},
+    {words::sump, words::slotted_inlet, SI_SU_RESULTS::compute_results, "si-su"},
+    {words::sump, words::ditch_inlet, TRAP_SU_RESULTS::compute_results, "trap-su"},
 });
 
 }  // namespace
@@ -59,6 +60,15 @@ bool check_and_solve() {
     DataSolved = true;
     open_inlet.begin_new_changes();
     return true;
+}
+
+std::string_view sheet_of(std::string_view location, std::string_view type) {
+    for (const auto& solver : solvers) {
+        if (solver.location == location && solver.type == type) {
+            return solver.sheet;
+        }
+    }
+    return {};
 }
 
 void solve_inlet() {

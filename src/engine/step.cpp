@@ -51,6 +51,14 @@ std::vector<std::string> describe_formula(const TraceLine& line, formula::Style 
 }
 
 namespace detail {
+namespace {
+
+void keep(TraceLine line) {
+    line.heading = onlooker.heading;
+    onlooker.trace->push_back(std::move(line));
+}
+
+}  // namespace
 
 void note(TraceLine line, const Quantity& target) {
     line.kind = TraceLine::Kind::number;
@@ -58,7 +66,7 @@ void note(TraceLine line, const Quantity& target) {
     line.symbol = target.symbol;
     line.meaning = target.meaning;
     line.number = target.value.number();
-    onlooker.trace->push_back(std::move(line));
+    keep(std::move(line));
 }
 
 void note(TraceLine line, Column target) {
@@ -67,13 +75,13 @@ void note(TraceLine line, Column target) {
     line.symbol = column_name(target);
     line.meaning = column_meaning(target);
     line.text = open_inlet.text(target);
-    onlooker.trace->push_back(std::move(line));
+    keep(std::move(line));
 }
 
 void note(TraceLine line, bool entered) {
     line.kind = TraceLine::Kind::condition;
     line.number = entered ? 1.0 : 0.0;
-    onlooker.trace->push_back(std::move(line));
+    keep(std::move(line));
 }
 
 void write(Column target, Real number) {

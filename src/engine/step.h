@@ -27,6 +27,7 @@ struct TraceLine {
     enum class Kind : unsigned char { number, text, condition };
 
     int step = 0;
+    std::string_view heading;  // of the design, under which it stands
     Kind kind = Kind::number;
     Fault fault = Fault::none;  // other than none: abandoned, the target kept its value
     Unit unit = Unit::ratio;
@@ -53,8 +54,9 @@ std::string_view fault_text(Fault fault);
 struct Onlooker {
     std::vector<TraceLine>* trace = nullptr;  // takes a line for every step while it is set
     std::vector<TraceLine>* roundings =
-        nullptr;           // takes a line, of no step, for every result that is rounded at the end
-    int tripped_step = 0;  // this step faults, whatever its formula; 0 for none
+        nullptr;                 // takes a line, of no step, for every result that is rounded at the end
+    std::string_view heading{};  // of the steps that run; see headings.h
+    int tripped_step = 0;        // this step faults, whatever its formula; 0 for none
 };
 
 extern Onlooker onlooker;

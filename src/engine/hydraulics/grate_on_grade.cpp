@@ -1,6 +1,7 @@
 #include "engine/hydraulics/grate_on_grade.h"
 #include "engine/constants.h"
 
+#include "engine/headings.h"
 #include "engine/hydraulics/approach_spread.h"
 #include "engine/hydraulics/inlet_repairs.h"
 #include "engine/unit_constants.h"
@@ -11,6 +12,7 @@ namespace {
 using enum Column;
 
 void find_flow_ratio(int first, GrateOnGrade& s) {
+    under(heading::flow_ratio);
     // From here on the grate stands for a gutter that is not there; the spread has seen the width of 0. The
     // grates of a sump are treated otherwise, deliberately.
     if (holds(first, [&s] { return s.W == 0.0; })) {
@@ -25,6 +27,7 @@ void find_flow_ratio(int first, GrateOnGrade& s) {
 }
 
 void find_depression_slope(int first, GrateOnGrade& s) {
+    under(heading::cross_slope);
     if (holds(first, [&s] { return s.Wa == 0.0 || s.a == 0.0; })) {
         if (holds(first + 1, [&s] { return s.Sw > s.Sx; })) {
             step(first + 2, s.a, [&s] { return s.W * (s.Sw - s.Sx); });
@@ -51,6 +54,7 @@ void set_constants_of_grate_on_grade() {
 }
 
 void read_inputs(int first, GrateOnGrade& s) {
+    under(heading::inputs);
     step(first, s.Q, [] { return number_in(TOTAL_DISCHARGE); });
     step(first + 1, s.S, [] { return number_in(LONGSLOPE); });
     step(first + 2, s.n, [] { return number_in(MANNINGS); });
@@ -72,6 +76,7 @@ void read_inputs(int first, GrateOnGrade& s) {
 }
 
 void find_approach(int first, GrateOnGrade& s) {
+    under(heading::spread);
     step(first, s.T, [&s] { return approach_spread(s, s.Q); });
     step(first + 1, OPENSPREAD, [&s] { return s.T; });
     find_flow_ratio(first + 2, s);
@@ -79,6 +84,7 @@ void find_approach(int first, GrateOnGrade& s) {
 }
 
 void find_interception_length(int first, GrateOnGrade& s) {
+    under(heading::total_interception);
     step(first, COMPXSLOPE, [&s] { return s.Se; });
     step(first + 1, s.LT, [&s] {
         return constants::K_L() * power(s.Q, 0.42) * power(s.S, 0.3) * power(1.0 / (s.n * s.Se), 0.6);
@@ -87,6 +93,7 @@ void find_interception_length(int first, GrateOnGrade& s) {
 }
 
 void find_depth_and_velocity(int first, GrateOnGrade& s) {
+    under(heading::depth_and_velocity);
     step(first, s.d, [&s] { return (s.Sw - s.Sx) * s.W; });
     if (holds(first + 1, [&s] { return s.T > s.W; })) {
         step(first + 2, s.y, [&s] { return (s.T * s.Sx + s.d) * constants::depthFactor(); });
@@ -101,6 +108,7 @@ void find_depth_and_velocity(int first, GrateOnGrade& s) {
 }
 
 void find_grate_efficiency(int first, GrateOnGrade& s, const Quantity& V) {
+    under(heading::efficiency);
     read_grate_length(first, s.frontal);
     find_frontal_efficiency(first + 1, s.frontal, V);
     step(first + 14, s.Rs, [&s, &V] {

@@ -1,6 +1,7 @@
 #include "engine/solvers/CISI_CG_RESULTS.h"
 
 #include "engine/constants.h"
+#include "engine/headings.h"
 #include "engine/hydraulics/approach_spread.h"
 #include "engine/hydraulics/inlet_repairs.h"
 #include "engine/results.h"
@@ -43,6 +44,7 @@ Sheet sheet;
 
 void read_inputs() {
     auto& s = sheet;
+    under(heading::inputs);
     step(1, s.Q, [] { return number_in(TOTAL_DISCHARGE); });
     step(2, s.S, [] { return number_in(LONGSLOPE); });
     step(3, s.n, [] { return number_in(MANNINGS); });
@@ -62,6 +64,7 @@ void read_inputs() {
 
 void find_spread() {
     auto& s = sheet;
+    under(heading::spread);
     step(17, s.T, [&s] { return approach_spread(s, s.Q); });
     step(18, OPENSPREAD, [&s] { return s.T; });
 }
@@ -72,6 +75,7 @@ auto is_depressed() {
 
 void find_flow_ratio() {
     auto& s = sheet;
+    under(heading::flow_ratio);
     const auto outside_gutter = [&s] { return side_flow_share(s.T, s.W, s.Sw, s.Sx); };
     if (holds(19, [&s] { return s.W == 0.0; })) {
         // With finite slopes a is 0 whenever W is, so that no inlet comes this way.
@@ -98,6 +102,7 @@ void find_flow_ratio() {
 
 void find_depression_slope() {
     auto& s = sheet;
+    under(heading::cross_slope);
     const bool depressed = holds(34, is_depressed);
     if (!depressed) {
         if (holds(35, [&s] { return s.Sw > s.Sx; })) {
@@ -121,6 +126,7 @@ void find_interception_length() {
     step(45, s.Se, [&s] { return s.Sx + s.SdashD * s.Eo; });
     step(46, s.Se, [&s] { return rounded(s.Se, "0.0000"); });
     step(47, COMPXSLOPE, [&s] { return s.Se; });
+    under(heading::total_interception);
     step(48, s.LT, [&s] {
         return constants::K_L() * power(s.Q, 0.42) * power(s.S, 0.3) * power(1.0 / (s.n * s.Se), 0.6);
     });
@@ -129,6 +135,7 @@ void find_interception_length() {
 
 void find_depth_and_velocity() {
     auto& s = sheet;
+    under(heading::depth_and_velocity);
     step(50, s.ag, [&s] { return (s.Sw - s.Sx) * s.W; });
     if (holds(51, [&s] { return s.T > s.W; })) {
         step(52, s.Dc, [&s] { return (s.T * s.Sx + s.ag) * constants::depthFactor(); });
@@ -144,6 +151,7 @@ void find_depth_and_velocity() {
 
 void find_efficiency() {
     auto& s = sheet;
+    under(heading::interception);
     step(59, s.L, [] { return (1.0 - number_in(GRATEPERCLOG) / 100.0) * number_in(INLETLENGTH); });
     if (holds(60, [&s] { return s.L > s.LT; })) {
         step(61, s.E, [] { return Real(1.0); });

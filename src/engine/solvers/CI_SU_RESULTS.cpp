@@ -1,6 +1,7 @@
 #include "engine/solvers/CI_SU_RESULTS.h"
 
 #include "engine/constants.h"
+#include "engine/headings.h"
 #include "engine/hydraulics/approach_spread.h"
 #include "engine/hydraulics/inlet_repairs.h"
 #include "engine/hydraulics/sump_inlets.h"
@@ -60,7 +61,9 @@ double weirCoefficientDepressed() {
 
 void read_inputs() {
     auto& s = sheet;
+    under(heading::flow);
     read_sump_flows(1, s);
+    under(heading::inputs);
     fill_blank(7, GRATEPERCLOG, "0");
     step(9, s.ht, [] { return number_in(HEIGHTOFCURB); });
     step(10, s.angle, [] { return number_in(THROATANGLE); });
@@ -82,12 +85,14 @@ void read_inputs() {
 
 void find_gutter_spread() {
     auto& s = sheet;
+    under(heading::spread);
     step(26, s.T, [&s] { return approach_spread(s, s.Qg); });
     step(27, GUTTERSPREAD, [&s] { return s.T; });
 }
 
 void find_weir_depth() {
     auto& s = sheet;
+    under(heading::weir);
     step(28, s.h, [&s] { return s.ht / constants::depthFactor(); });
     if (holds(29, [&s] { return s.L > constants::curbLengthLimit() || s.Wa == 0.0; })) {
         step(30, s.P, [&s] { return s.L; });
@@ -101,6 +106,7 @@ void find_weir_depth() {
 
 void find_orifice_depth() {
     auto& s = sheet;
+    under(heading::orifice);
     step(36, s.orifice_depth,
          [&s] { return square(s.Q / (orifice_coefficient * s.h * s.L)) / (2.0 * constants::g()); });
     if (holds(37, [] { return says(THROATYPE, words::horizontal_throat); })) {
@@ -117,6 +123,7 @@ void find_orifice_depth() {
 
 void choose_regime() {
     auto& s = sheet;
+    under(heading::regime);
     const auto spread_over_depression = [&s] { return (s.D - s.a) / s.Sx + s.Wa; };
     step(44, s.Tw, [] { return Real(0.0); });
     if (holds(45, [&s] { return orifice_share * s.h < s.weir_depth; })) {
@@ -135,6 +142,7 @@ void choose_regime() {
 
 void find_spread_and_depths() {
     auto& s = sheet;
+    under(heading::spread_and_depth);
     step(55, s.To, [&s] { return s.weir_depth / s.Sx; });
     if (holds(56, [&s] { return s.Tw > s.To; })) {
         step(57, s.To, [&s] { return s.Tw; });

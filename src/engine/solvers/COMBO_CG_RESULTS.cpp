@@ -1,5 +1,6 @@
 #include "engine/solvers/COMBO_CG_RESULTS.h"
 
+#include "engine/headings.h"
 #include "engine/hydraulics/grate_on_grade.h"
 #include "engine/hydraulics/inlet_repairs.h"
 #include "engine/results.h"
@@ -25,6 +26,7 @@ struct Sheet {
 Sheet sheet;
 
 bool inputs_are_refused() {
+    under(heading::check);
     const auto& grate = sheet.grate;
     return holds(
         20, [&grate] { return grate.S <= 0.0 || grate.n <= 0.0 || grate.Sx < 0.0 || grate.Sw < grate.Sx; });
@@ -38,6 +40,7 @@ void round_composite_slope() {
 
 void find_share_of_curb() {
     auto& s = sheet;
+    under(heading::curb_interception);
     const Reading length(OPENLEN_GRATE);
     if (holds(54, [&s, length] { return length > s.grate.LT; })) {
         step(55, s.Ec, [] { return Real(1.0); });
@@ -52,6 +55,7 @@ void find_share_of_curb() {
 
 void find_interception() {
     auto& s = sheet;
+    under(heading::interception);
     step(82, s.Qig,
          [&s] { return s.Qr * (s.grate.frontal.Rf * s.grate.Eg + s.grate.Rs * (1.0 - s.grate.Eg)); });
     step(83, QINTGRATE, [&s] { return s.Qig; });

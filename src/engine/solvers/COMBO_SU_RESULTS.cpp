@@ -1,6 +1,7 @@
 #include "engine/solvers/COMBO_SU_RESULTS.h"
 
 #include "engine/constants.h"
+#include "engine/headings.h"
 #include "engine/hydraulics/approach_spread.h"
 #include "engine/hydraulics/inlet_repairs.h"
 #include "engine/hydraulics/sump_inlets.h"
@@ -53,6 +54,7 @@ auto perimeter_that_clogging_leaves() {
 
 void read_inlet() {
     auto& s = sheet;
+    under(heading::inputs);
     step(7, s.L, [] { return number_in(INLETLENGTH); });
     step(8, s.ht, [] { return number_in(HEIGHTOFCURB); });
     step(9, s.angle, [] { return number_in(THROATANGLE); });
@@ -85,6 +87,7 @@ void read_section() {
 
 void find_gutter_spread() {
     auto& s = sheet;
+    under(heading::spread);
     step(31, s.Tg, [&s] { return approach_spread(s, s.Qg); });
     step(32, GUTTERSPREAD, [&s] { return s.Tg; });
     step(33, EFFPERI, perimeter_that_clogging_leaves);
@@ -92,6 +95,7 @@ void find_gutter_spread() {
 
 void find_throat() {
     auto& s = sheet;
+    under(heading::depth);
     step(34, s.h, [&s] { return s.ht / constants::depthFactor(); });
     s.throat = throat_named(open_inlet.text(THROATYPE));
     if (holds(35, [] { return says(THROATYPE, words::inclined_throat); })) {
@@ -148,6 +152,7 @@ void find_depth() {
 
 void find_spread_at_inlet() {
     auto& s = sheet;
+    under(heading::spread_and_depth);
     step(51, s.e, [&s] { return s.W * s.SdashW / 2.0; });
     step(52, s.de, [&s] { return s.d - s.e; });
     step(53, s.di, [&s] { return s.e + s.d; });
@@ -160,6 +165,7 @@ void find_spread_at_inlet() {
 
 void write_results() {
     auto& s = sheet;
+    under(heading::interception_in_sump);
     step(57, DEPTHATINLET, [&s] { return s.di * constants::depthFactor(); });
     step(58, OPENSPREAD, [&s] { return s.Ti; });
     step(59, RAREA, [&s] { return s.Ae; });
@@ -181,6 +187,7 @@ void compute_results() {
     unit_constants.weirCoefficient = by_units(2.3, 1.25);
     sheet = {};
 
+    under(heading::flow);
     read_sump_flows(1, sheet);
     read_inlet();
     read_section();

@@ -1,5 +1,6 @@
 #include "engine/solvers/GI_CG_RESULTS.h"
 
+#include "engine/headings.h"
 #include "engine/hydraulics/grate_on_grade.h"
 #include "engine/results.h"
 #include "engine/step.h"
@@ -19,6 +20,7 @@ Sheet sheet;
 
 void find_interception() {
     auto& s = sheet;
+    under(heading::interception);
     step(73, s.Qi, [&s] { return s.grate.E * s.grate.Q; });
     step(74, QINT, [&s] { return s.Qi; });
     step(75, s.Qc, [&s] { return s.grate.Q - s.Qi; });

@@ -1,6 +1,7 @@
 #include "engine/solvers/GI_SU_RESULTS.h"
 
 #include "engine/constants.h"
+#include "engine/headings.h"
 #include "engine/hydraulics/approach_spread.h"
 #include "engine/hydraulics/inlet_repairs.h"
 #include "engine/hydraulics/sump_inlets.h"
@@ -44,6 +45,7 @@ Sheet sheet;
 
 void read_section() {
     auto& s = sheet;
+    under(heading::inputs);
     step(7, s.P, [] { return number_in(GRATEPERI); });
     step(8, s.A, [] { return number_in(GRATEAREA); });
     step(9, s.Wg, [] { return number_in(GRATEWIDTH); });
@@ -64,6 +66,7 @@ void read_section() {
 
 void find_perimeter_and_gutter_spread() {
     auto& s = sheet;
+    under(heading::spread);
     step(25, EFFPERI, [&s] { return clogged_perimeter(s.P, number_in(INLETLENGTH), s.C); });
     step(26, s.Tg, [&s] { return approach_spread(s, s.Qg); });
     step(27, GUTTERSPREAD, [&s] { return s.Tg; });
@@ -71,11 +74,13 @@ void find_perimeter_and_gutter_spread() {
 
 bool inputs_are_refused() {
     auto& s = sheet;
+    under(heading::check);
     return holds(28, [&s] { return s.P <= 0.0 || s.A <= 0.0 || s.Wg <= 0.0 || s.Sx < 0.0 || s.Sw < s.Sx; });
 }
 
 void find_depth() {
     auto& s = sheet;
+    under(heading::depth);
     step(29, s.Ae, [&s] { return (1.0 - s.C / 100.0) * s.A; });
     step(30, s.Pe, [] { return number_in(EFFPERI); });
     step(31, s.weir_depth, [&s] { return power(s.Q / (constants::Cw() * s.Pe), 0.6667); });
@@ -92,6 +97,7 @@ void find_depth() {
 
 void find_spread_at_inlet() {
     auto& s = sheet;
+    under(heading::spread_and_depth);
     // Only behind the gutter spread, where the combination widens the gutter before it, deliberately.
     if (holds(38, [&s] { return s.W < s.Wg; })) {
         step(39, s.W, [&s] { return s.Wg; });
@@ -114,6 +120,7 @@ void find_spread_at_inlet() {
 
 void write_results() {
     auto& s = sheet;
+    under(heading::interception_in_sump);
     step(50, OPENSPREAD, [&s] { return s.Ti; });
     step(51, RAREA, [&s] { return s.Ae; });
     step(52, RPERI, [&s] { return s.Pe; });
@@ -135,6 +142,7 @@ void compute_results() {
     unit_constants.weirCoefficient = by_units(3.0, 1.66);
     sheet = {};
 
+    under(heading::flow);
     read_sump_flows(1, sheet);
     read_section();
     find_perimeter_and_gutter_spread();

@@ -1,6 +1,7 @@
 #include "engine/solvers/SI_SU_RESULTS.h"
 
 #include "engine/constants.h"
+#include "engine/headings.h"
 #include "engine/hydraulics/approach_spread.h"
 #include "engine/hydraulics/inlet_repairs.h"
 #include "engine/hydraulics/sump_inlets.h"
@@ -49,7 +50,9 @@ double slotOrificeDepth() {
 
 void read_inputs() {
     auto& s = sheet;
+    under(heading::flow);
     read_sump_flows(1, s);
+    under(heading::inputs);
     step(7, s.wt, [] { return number_in(SLOTWIDTH); });
     step(8, s.W, [] { return number_in(GUTWIDTH); });
     step(9, s.Sx, [] { return number_in(PAVXSLOPE); });
@@ -68,6 +71,7 @@ void read_inputs() {
 
 void find_gutter_spread() {
     auto& s = sheet;
+    under(heading::spread);
     step(23, s.T, [&s] { return approach_spread(s, s.Qg); });
     step(24, GUTTERSPREAD, [&s] { return s.T; });
     // Both slopes over their own widths, unlike the drop below the pavement slope that is used on grade.
@@ -80,6 +84,7 @@ void find_gutter_spread() {
 
 void find_depths() {
     auto& s = sheet;
+    under(heading::depth);
     step(28, s.w, [&s] { return s.wt / constants::depthFactor(); });
     step(29, s.L, [] { return number_in(INLETLENGTH) * (1.0 - number_in(GRATEPERCLOG) / 100.0); });
     step(30, s.weir_depth, [&s] { return power(s.Q / (constants::Cw() * s.L), 0.667); });
@@ -89,6 +94,7 @@ void find_depths() {
 
 void choose_regime() {
     auto& s = sheet;
+    under(heading::regime);
     if (holds(32, [&s] { return s.weir_depth < slotWeirDepth(); })) {
         step(33, s.D, [&s] { return s.weir_depth; });
         step(34, INLETPERF, [] { return words::weir_flow; });
@@ -104,6 +110,7 @@ void choose_regime() {
 
 void write_results() {
     auto& s = sheet;
+    under(heading::spread_and_depth);
     step(40, s.Dt, [&s] { return s.D + s.W * (s.Sw - s.Sx) + s.a; });
     step(41, s.To, [&s] { return s.D / s.Sx; });
     step(42, OPENSPREAD, [&s] { return s.To; });

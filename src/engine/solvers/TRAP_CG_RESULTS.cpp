@@ -1,6 +1,7 @@
 #include "engine/solvers/TRAP_CG_RESULTS.h"
 
 #include "engine/constants.h"
+#include "engine/headings.h"
 #include "engine/hydraulics/Common_Libraries.h"
 #include "engine/hydraulics/grate_types.h"
 #include "engine/results.h"
@@ -46,6 +47,7 @@ constexpr double side_slope_upright = 0.99;
 
 void find_depth() {
     auto& s = sheet;
+    under(heading::inputs);
     step(1, s.Q, [] { return number_in(TOTAL_DISCHARGE); });
     step(2, s.S, [] { return number_in(LONGSLOPE); });
     step(3, s.n, [] { return number_in(MANNINGS); });
@@ -53,6 +55,7 @@ void find_depth() {
     step(5, s.zl, [] { return number_in(LSCOPERATIO); });
     step(6, s.zr, [] { return number_in(RSCOPERATIO); });
     step(7, s.Wg, [] { return number_in(GRATEWIDTH); });
+    under(heading::ditch_flow);
     step(8, s.y, [&s] {
         return formula::called(
             "ditch_depth",
@@ -76,8 +79,10 @@ bool has_depth_alone() {
 
 void find_flow_section() {
     auto& s = sheet;
+    under(heading::flow_ratio);
     step(12, s.Eo, [&s] { return s.Wg / ((s.zl + s.zr) * s.y / 2.0 + s.B); });
     step(13, FLOWRATIO, [&s] { return s.Eo; });
+    under(heading::depth_and_velocity);
     step(14, s.A, [&s] { return s.y * s.B + square(s.y) * s.zl / 2.0 + square(s.y) * s.zr / 2.0; });
     step(15, FLOWAREA, [&s] { return s.A; });
     step(16, s.V, [&s] { return s.Q / s.A; });
@@ -104,6 +109,7 @@ void find_side_slope() {
 
 void find_efficiency() {
     auto& s = sheet;
+    under(heading::efficiency);
     read_grate_length(22, s.frontal);
     find_frontal_efficiency(23, s.frontal, s.V);
     find_side_slope();
@@ -122,10 +128,12 @@ void find_efficiency() {
 
 void find_interception() {
     auto& s = sheet;
+    under(heading::interception);
     step(48, s.Qi, [&s] { return s.E * s.Q; });
     step(49, QINT, [&s] { return s.Qi; });
     step(50, s.Qc, [&s] { return s.Q - s.Qi; });
     step(51, QCARRY, [&s] { return s.Qc; });
+    under(heading::berm);
     step(52, s.Pr, [&s] { return 2.0 * (s.frontal.length + s.Wg); });
     // In ft or m: the one depth that is not turned into in or mm.
     step(53, DSBH, [&s] { return power(s.Q / (constants::Cw() * s.Pr), 0.67); });

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "engine/constants.h"
+#include "engine/headings.h"
 #include "engine/hydraulics/sump_march.h"
 #include "engine/results.h"
 #include "engine/step.h"
@@ -77,15 +78,18 @@ bool is_rated() {
 
 void use_rating() {
     auto& s = sheet;
+    under(heading::rating);
     strict_step(4, s.d, [&s] { return rated_depth(s.C, s.Q); });
     strict_step(5, DEPTHATINLET, [&s] { return constants::depthFactor() * s.d; });
 }
 
 void use_dimensions() {
     auto& s = sheet;
+    under(heading::inputs);
     strict_step(6, s.P, [] { return number_in(GRATEPERI); });
     strict_step(7, s.A, [] { return number_in(GRATEAREA); });
     strict_step(8, s.Wg, [] { return number_in(GRATEWIDTH); });
+    under(heading::depth);
     strict_step(9, s.weir_depth, [&s] { return power(s.Q / (constants::Cw() * s.P), 0.6667); });
     strict_step(10, s.orifice_depth,
                 [&s] { return square(s.Q / (s.A * orifice_coefficient)) / (2.0 * constants::g()); });
@@ -96,6 +100,7 @@ void use_dimensions() {
         strict_step(14, s.d, [&s] { return s.orifice_depth; });
         strict_step(15, INLETPERF, [] { return words::orifice_flow; });
     }
+    under(heading::interception_in_sump);
     strict_step(16, DEPTHATINLET, [&s] { return constants::depthFactor() * s.d; });
     strict_step(17, RAREA, [&s] { return s.A; });
     strict_step(18, RPERI, [&s] { return s.P; });
@@ -110,6 +115,7 @@ void compute_results() {
     unit_constants.weirCoefficient = by_units(3.0, 1.66);
     sheet = {};
     try {
+        under(heading::flow);
         strict_step(1, sheet.Q, [] { return number_in(TOTAL_DISCHARGE); });
         strict_step(2, sheet.C, [] { return number_in(GRATEPERCLOG); });
         if (is_rated()) {
