@@ -20,7 +20,6 @@ inline constexpr std::string_view curb_interception = "Interception by the curb 
 inline constexpr std::string_view efficiency = "Efficiency";
 inline constexpr std::string_view interception = "Interception";
 inline constexpr std::string_view berm = "Downstream berm";
-inline constexpr std::string_view clogging = "What clogging leaves";
 inline constexpr std::string_view weir = "Depth as a weir";
 inline constexpr std::string_view orifice = "Depth as an orifice";
 inline constexpr std::string_view depth = "Depth over the inlet";

@@ -38,6 +38,14 @@ void note_rounding(Column column, std::string_view decimals) {
 
 }  // namespace
 
+std::vector<Column> all_result_columns() {
+    std::vector<Column> columns;
+    for (const auto& result : result_columns) {
+        columns.push_back(result.column);
+    }
+    return columns;
+}
+
 void clear_results() {
     for (const auto& result : result_columns) {
         open_inlet.set(result.column, "");

@@ -15,12 +15,13 @@ forbid() {
 }
 
 qt='Q[A-Za-z]|Qt[A-Z]|ui_'
-forbid platform  "engine/|catalogue/|store/|editor/|reports/|shell/|$qt"
-forbid engine    "catalogue/|store/|editor/|reports/|shell/|sqlite|com/sun/star|$qt"
-forbid catalogue "store/|editor/|reports/|shell/|sqlite|com/sun/star|$qt"
-forbid store     "engine/|catalogue/|editor/|reports/|shell/|sqlite|com/sun/star|$qt"
-forbid editor    "reports/|shell/|sqlite|com/sun/star|$qt"
-forbid reports   "editor/|shell/|sqlite|com/sun/star|$qt"
+forbid platform  "engine/|calculation/|catalogue/|store/|editor/|reports/|shell/|$qt"
+forbid engine    "calculation/|catalogue/|store/|editor/|reports/|shell/|sqlite|com/sun/star|$qt"
+forbid catalogue "calculation/|store/|editor/|reports/|shell/|sqlite|com/sun/star|$qt"
+forbid calculation "catalogue/|store/|editor/|reports/|shell/|sqlite|com/sun/star|$qt"
+forbid store     "engine/|calculation/|catalogue/|editor/|reports/|shell/|sqlite|com/sun/star|$qt"
+forbid editor    "calculation/|reports/|shell/|sqlite|com/sun/star|$qt"
+forbid reports   "calculation/|editor/|shell/|sqlite|com/sun/star|$qt"
 forbid shell     "sqlite|com/sun/star"
 
 # The rooms of the shell: the windows stand on what serves every one of them, and know nothing of the start.
