@@ -180,6 +180,8 @@ bool LogicStage::turn(Deed deed) {
     }
     const bool done = deed();
     honour_wanted_focus();
+    water_of_form_.look(engine::open_inlet);
+    water_of_view_.look(viewed_inlet);
     const bool gone = !is_visible(front_);
     for (std::size_t i = 0; i < before.size(); ++i) {
         if (const char* window = windows_from_back.at(i); is_visible(window) && (gone || !before.at(i))) {
@@ -298,6 +300,13 @@ void LogicStage::set_sights() {
     stage.is_command_on = [this](const std::string& caption) { return command(stage.window(), caption).on; };
     stage.is_pressed = [](const std::string& caption) {
         return MDIInlet.Toolbar1.at(static_cast<std::size_t>(button_index(caption))).checked;
+    };
+    stage.picture = [this] {
+        const section::Water water =
+            front_ == "view" ? water_of_view_.look(viewed_inlet) : water_of_form_.look(engine::open_inlet);
+        return water == section::Water::solved     ? "solved"
+               : water == section::Water::unsolved ? "not solved"
+                                                   : "no results";
     };
     stage.focus = [] {
         return frminletMDIC.focused ? std::string(field_name(*frminletMDIC.focused)) : std::string();

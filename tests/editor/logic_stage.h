@@ -3,6 +3,7 @@
 #include <string>
 
 #include "roads/road_runner.h"
+#include "section/water_watch.h"
 #include "support/outside_double.h"
 
 namespace gullymark::roads {
@@ -31,6 +32,8 @@ class LogicStage {
     Road& road_;
     testing_support::OutsideDouble outside_;
     std::string front_ = "main";
+    section::WaterWatch water_of_form_;
+    section::WaterWatch water_of_view_;
 };
 
 }  // namespace gullymark::roads

@@ -92,6 +92,7 @@ constexpr auto sights = std::to_array<Sight>({
     {"units panel $",       [](const Stage& s, const Texts& t) { return Pair{s.panel(1, 3), t[0]}; }},
     {"page ...",            [](const Stage& s, const Texts& t) { return Pair{page_names.at(static_cast<std::size_t>(s.page())), join(t, " ")}; }},
     {"focus in $",          [](const Stage& s, const Texts& t) { return Pair{s.focus(), t[0]}; }},
+    {"picture $",           [](const Stage& s, const Texts& t) { return Pair{s.picture(), t[0]}; }},
     {"row $",               [](const Stage& s, const Texts& t) { return Pair{std::to_string(s.row()), t[0]}; }},
     {"rows ...",            [](const Stage& s, const Texts& t) { return Pair{first_cells(s), join(t, " | ")}; }},
     {"line ...",            [](const Stage& s, const Texts& t) { return Pair{cells(s, t), join(t, " | ", 1)}; }},

@@ -48,6 +48,8 @@ struct Stage {
     std::function<std::vector<std::string>(const std::string& field)> entries;
     std::function<bool(const std::string& caption)> is_command_on;
     std::function<bool(const std::string& caption)> is_pressed;
+    std::function<std::string()>
+        picture;                         // what it says of its water: "solved", "not solved" or "no results"
     std::function<std::string()> focus;  // the field that the user is in, empty for none
     std::function<int()> page;
     std::function<std::string(int bar, int panel)> panel;  // bar 0: screenmode, 1: StatusBar; panels from 1

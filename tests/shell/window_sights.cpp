@@ -14,6 +14,7 @@
 
 #include "editor/form/screen_fields.h"
 #include "shell/binding/input_filter.h"
+#include "shell/windows/section_picture.h"
 
 namespace gullymark::roads {
 namespace {
@@ -146,6 +147,22 @@ QTableView& rows_of(const QWidget& window) {
         throw std::runtime_error("the window has no rows");
     }
     return *rows;
+}
+
+std::string said_of_the_water(const QWidget& window) {
+    const auto pictures = window.findChildren<shell::SectionPicture*>(QRegularExpression("picture$"));
+    for (const shell::SectionPicture* picture : pictures) {
+        if (!picture->isVisible()) {
+            continue;
+        }
+        for (const std::string& note : picture->drawn().notes) {
+            if (note == "not solved" || note == "no results") {
+                return note;
+            }
+        }
+        return "solved";
+    }
+    return {};
 }
 
 }  // namespace gullymark::roads

@@ -40,4 +40,7 @@ QTableView& rows_of(const QWidget& window);
 /// Of these rows, from 1; 0 for none.
 int marked_row(const QWidget& window);
 
+/// What the section in front says of its water: "solved", "not solved" or "no results"; empty without a section.
+std::string said_of_the_water(const QWidget& window);
+
 }  // namespace gullymark::roads

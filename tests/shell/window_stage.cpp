@@ -182,6 +182,7 @@ void WindowStage::set_sights() {
     stage.is_pressed = [](const std::string& caption) {
         return button_of(window_called("workspace"), caption).isChecked();
     };
+    stage.picture = [this] { return said_of_the_water(front()); };
     stage.focus = [this] { return focus_in(front()); };
     stage.page = [this] { return page_of(front()); };
     stage.panel = [](int bar, int panel) {

@@ -7,8 +7,8 @@
 namespace gullymark::shell {
 
 SectionColors section_colors(const QPalette& palette) {
-    const QColor paper = palette.color(QPalette::Base);
-    const QColor text = palette.color(QPalette::Text);
+    const QColor paper = palette.color(QPalette::Active, QPalette::Base);
+    const QColor text = palette.color(QPalette::Active, QPalette::Text);
     const std::array on_paper{paper};
     SectionColors colors;
     colors.paper = paper;

@@ -9,6 +9,8 @@
 #include "shell/binding/small_screen.h"
 #include "shell/binding/turn.h"
 #include "shell/windows/inlet_items.h"
+#include "shell/windows/results_page.h"
+#include "shell/windows/section_picture.h"
 #include "ui_inlet_form_view.h"
 
 namespace gullymark::shell {
@@ -17,6 +19,7 @@ using editor::frminletMDIC;
 InletFormView::InletFormView(QWidget* parent) : QWidget(parent), ui_(new Ui::frminletMDIC) {
     ui_->setupUi(this);
     scroll_pages(*ui_->SSTab1);
+    fit_results_page(*this);
     order_tabs(*this);
 }
 
@@ -26,7 +29,16 @@ void InletFormView::bind() {
     add_view([this] { carry_out_wishes(); });  // before the binder, which then moves the focus
     binder_ = new Binder(*this, design_form_items());
     add_view([this] { follow_units(); });
+    ui_->fixed_section_picture->draw(engine::open_inlet);
+    ui_->fixed_results_picture->draw(engine::open_inlet);
+    add_view([this] { show_pictures(); });
     add_copying(*this, frminletMDIC.screen);
+}
+
+void InletFormView::show_pictures() {
+    const section::Water water = water_.look(engine::open_inlet);
+    ui_->fixed_section_picture->follow(water);
+    ui_->fixed_results_picture->follow(water);
 }
 
 /// The tips tell units.

@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+#include "section/water_watch.h"
 #include "shell/binding/binder.h"
 
 namespace Ui {
@@ -28,10 +29,12 @@ class InletFormView : public QWidget {
   private:
     void carry_out_wishes();
     void follow_units();
+    void show_pictures();
 
     std::unique_ptr<Ui::frminletMDIC> ui_;
     Binder* binder_ = nullptr;
-    int begun_ = 0;                       // the inlet that the pages were visited for
+    int begun_ = 0;  // the inlet that the pages were visited for
+    section::WaterWatch water_;
     std::optional<std::string> tips_in_;  // the units that the tool tips tell
 };
 

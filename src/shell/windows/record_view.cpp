@@ -10,6 +10,8 @@
 #include "shell/binding/small_screen.h"
 #include "shell/binding/turn.h"
 #include "shell/windows/inlet_items.h"
+#include "shell/windows/results_page.h"
+#include "shell/windows/section_picture.h"
 #include "ui_inlet_form_view.h"
 
 namespace gullymark::shell {
@@ -19,15 +21,25 @@ using editor::frmviewinlet;
 RecordView::RecordView() : form_(new Ui::frminletMDIC) {
     form_->setupUi(this);
     scroll_pages(*form_->SSTab1);
+    fit_results_page(*this);
     order_tabs(*this);
     setObjectName("frmviewinlet");
     resize(sizeHint());
     new Binder(*this, record_view_items());  // owned by the window
     add_copying(*this, frmviewinlet.screen);
+    form_->fixed_section_picture->draw(editor::viewed_inlet);
+    form_->fixed_results_picture->draw(editor::viewed_inlet);
+    add_view([this] { show_pictures(); });
     add_view([this] { show_state(); });
 }
 
 RecordView::~RecordView() = default;
+
+void RecordView::show_pictures() {
+    const section::Water water = water_.look(editor::viewed_inlet);
+    form_->fixed_section_picture->follow(water);
+    form_->fixed_results_picture->follow(water);
+}
 
 void RecordView::show_state() {
     setWindowTitle(to_qt(frmviewinlet.caption));

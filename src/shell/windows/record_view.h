@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include "section/water_watch.h"
+
 namespace Ui {
 class frminletMDIC;
 }
@@ -22,8 +24,10 @@ class RecordView : public QWidget {
 
   private:
     void show_state();
+    void show_pictures();
 
     std::unique_ptr<Ui::frminletMDIC> form_;
+    section::WaterWatch water_;
     int shows_shown_ = 0;
 };
 
