@@ -110,6 +110,13 @@ class Part {
         while (const auto count = source.read_some(bytes)) {
             file_.write_all(std::span(bytes).first(count));
         }
+        finish(permissions);
+    }
+    void fill_with(std::string_view bytes, mode_t permissions) {
+        file_.write_all(std::span(bytes.data(), bytes.size()));
+        finish(permissions);
+    }
+    void finish(mode_t permissions) {
         file_.set_permissions(permissions);
         file_.synchronise();
         file_.close();
@@ -169,6 +176,20 @@ void copy_file(const std::string& source, const std::string& target,
         before_exchange(end.string());
         part.synchronise_folder();
     }
+    part.take_place();
+}
+
+void replace_file(const std::string& target, std::string_view bytes) {
+    struct stat old {};
+    mode_t permissions = S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH;
+    if (stat(target.c_str(), &old) == 0) {
+        check_kind(old.st_mode, target);
+        permissions = (old.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO)) | S_IWUSR;
+    } else if (errno != ENOENT) {
+        fail(errno, target);
+    }
+    Part part(end_of_links(target), target);
+    part.fill_with(bytes, permissions);
     part.take_place();
 }
 

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 /// Files and folders. Paths are UTF-8 text with the platform's separator.
 namespace gullymark::platform {
@@ -18,6 +19,10 @@ bool file_exists(const std::string& path);
 /// was, and what it does in that folder reaches the disk before the exchange.
 void copy_file(const std::string& source, const std::string& target,
                const std::function<void(const std::string& end)>& before_exchange = {});
+
+/// Writes an ordinary file of these bytes, in place of one that is there, as `copy_file` does: whatever ends the program, what
+/// is found is the file that was there or the new one. Throws Failure with a description; `target` is then as it was.
+void replace_file(const std::string& target, std::string_view bytes);
 
 /// The current folder of the process. Throws Failure when it no longer exists.
 std::string current_folder();

@@ -74,6 +74,7 @@ void fill_the_tables() {
     editor::windows.move_focus_on = [] { views.workspace->move_focus_on(); };
     editor::windows.run_renumber_dialog = [] { views.renumber->run(); };
     editor::windows.show_standards = show_standards;
+    editor::windows.show_worked_calculation = [] { views.workspace->show_worked_calculation(); };
     editor::windows.inlet_report = [] { reports::inlet_report(inlet_count(), engine::open_inlet); };
     editor::windows.InletDesignForm = [] { reports::InletDesignForm(inlet_count()); };
     store::windows.end_program = [] { std::_Exit(EXIT_SUCCESS); };

@@ -10,6 +10,7 @@
 #include "editor/form/inlet_form.h"
 #include "editor/form/inlet_screen.h"
 #include "editor/form/screen_fields.h"
+#include "editor/form/worked_calculation.h"
 #include "editor/form_user.h"
 #include "editor/records/grid_events.h"
 #include "editor/records/life_cycle.h"
@@ -109,6 +110,10 @@ Command command(const std::string& window, const std::string& caption) {
     return find_command<store::MainWindow>(store::main_menu, frmsoftwaremain, caption);
 }
 
+// The button of the results page; its window is the shell's.
+constexpr const char* calculation_button = "Worked Calculation...";
+bool calculation_shown = false;
+
 int button_index(const std::string& caption) {
     for (const auto& button : toolbar_buttons) {
         if (button.caption == caption) {
@@ -119,7 +124,14 @@ int button_index(const std::string& caption) {
 }
 
 bool press(const std::string& caption) {
-    if (in_renumber()) {
+    if (calculation_shown) {
+        calculation_shown = caption != "Close";
+    } else if (caption == calculation_button) {
+        if (!has_worked_calculation()) {
+            return false;
+        }
+        show_worked_calculation();
+    } else if (in_renumber()) {
         caption == "Accept" ? cmdmodaccept_Click() : cmdmodcancel_Click();
     } else {
         Toolbar1_ButtonClick(button_index(caption));
@@ -168,6 +180,12 @@ void LogicStage::ask_the_road() {
     editor::windows.run_renumber_dialog = [this] {
         while (in_renumber() && road_.act_in_form()) {
         }
+    };
+    editor::windows.show_worked_calculation = [this] {
+        calculation_shown = true;
+        while (calculation_shown && road_.act_in_form()) {
+        }
+        calculation_shown = false;
     };
     editor::windows.move_focus_on = [] { static_cast<void>(move_on()); };
 }
@@ -283,7 +301,12 @@ void LogicStage::set_sights() {
         return front_ == "view" ? frmviewinlet.screen : frminletMDIC.screen;
     };
     const auto in_form = [] { return in_details() || in_renumber(); };
-    stage.window = [this] { return in_renumber() ? "renumber" : in_details() ? "details" : front_; };
+    stage.window = [this] {
+        return calculation_shown ? "calculation"
+               : in_renumber()   ? "renumber"
+               : in_details()    ? "details"
+                                 : front_;
+    };
     stage.text = [=, this](const std::string& name) {
         if (front_ == "listing" && name == "rec_count") {
             return frminletflex.rec_count.text;

@@ -209,5 +209,63 @@ TEST_F(CopyFile, TellsWhichFileFailed) {
     EXPECT_EQ(file_count(), 2);
 }
 
+using ReplaceFile = CopyFile;
+
+TEST_F(ReplaceFile, WritesANewFileOrTakesThePlaceOfAnOldOne) {
+    replace_file(target, "first");
+    EXPECT_EQ(read_file(target), "first");
+    fs::permissions(target, fs::perms::owner_read | fs::perms::group_read);
+    replace_file(target, "second");
+    EXPECT_EQ(read_file(target), "second");
+    EXPECT_EQ(fs::status(target).permissions(),
+              fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+    EXPECT_EQ(file_count(), 2);
+}
+
+TEST_F(ReplaceFile, ReplacesWhatALinkLeadsTo) {
+    const std::string link = folder.path("link");
+    write_file(target, "old");
+    fs::create_symlink(target, link);
+    replace_file(link, "new");
+    EXPECT_TRUE(fs::is_symlink(link));
+    EXPECT_EQ(read_file(target), "new");
+}
+
+TEST_F(ReplaceFile, ThatFindsNoRoomKeepsTheOldFile) {
+    write_file(target, "old");
+    testing_support::ChildProcess child([&] {
+        static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
+        const rlimit limit{50'000, RLIM_INFINITY};
+        setrlimit(RLIMIT_FSIZE, &limit);
+        if (failure_text([&] { replace_file(target, std::string(100'000, 'n')); }) !=
+            "File too large: " + target) {
+            throw std::runtime_error("another failure");
+        }
+    });
+    EXPECT_TRUE(child.wait());
+    EXPECT_EQ(read_file(target), "old");
+    EXPECT_EQ(file_count(), 2);
+}
+
+TEST_F(ReplaceFile, KilledAtAnyCallLeavesTheOldFileOrTheNewOne) {
+    bool killed = true;
+    for (int call = 1; killed; ++call) {
+        write_file(target, "old");
+        killed = testing_support::kill_at_call(call, [&] { replace_file(target, "new"); });
+        const std::string content = read_file(target);
+        ASSERT_TRUE(content == "old" || content == "new") << content << " when killed at call " << call;
+    }
+    EXPECT_EQ(read_file(target), "new");
+}
+
+TEST_F(ReplaceFile, TellsWhichFileFailed) {
+    EXPECT_EQ(failure_text([&] { replace_file(folder.path("none/target"), "new"); }),
+              "No such file or directory: " + folder.path("none/target"));
+    fs::create_directory(target);
+    EXPECT_EQ(failure_text([&] { replace_file(target, "new"); }), "Is a directory: " + target);
+    EXPECT_EQ(failure_text([&] { replace_file("/dev/null", "new"); }), "This is no ordinary file: /dev/null");
+    EXPECT_EQ(file_count(), 2);
+}
+
 }  // namespace
 }  // namespace gullymark::platform

@@ -24,7 +24,8 @@ constexpr std::array<WindowName, 4> windows_from_back{{
     {"listing", "frminletflex"},
     {"view", "frmviewinlet"},
 }};
-constexpr std::array<WindowName, 2> modal_forms{{
+constexpr std::array<WindowName, 3> modal_forms{{
+    {"calculation", "worked_calculation"},
     {"details", "frmProject"},
     {"renumber", "frminletmodify"},
 }};

@@ -90,6 +90,12 @@ void tour_windows(const Visit& visit) {
     visit("workspace empty", workspace());
     save_a_curb_inlet();
     visit_pages(visit, "workspace VIEW", workspace());
+    press(workspace(), Qt::Key_R, Qt::AltModifier);
+    program.robot.in_window.emplace_back([](QWidget& calculation) { press(calculation, Qt::Key_Escape); });
+    workspace().findChild<QWidget*>("fixed_worked_calculation")->setFocus();
+    press(workspace(), Qt::Key_Space);
+    activate(workspace());
+    press(workspace(), Qt::Key_D, Qt::AltModifier);
     press(workspace(), Qt::Key_E, Qt::ControlModifier);
     visit_pages(visit, "workspace EDIT", workspace());
     program.robot.answers.push_back(QMessageBox::Yes);

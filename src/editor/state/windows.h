@@ -22,6 +22,8 @@ struct Windows {
     /// Shows a table of standards, modal, and waits until it is closed. A row that the user picks is then in the open
     /// inlet.
     std::function<void(const catalogue::Table&)> show_standards;
+    /// Shows the worked calculation of the open inlet, modal, and waits until it is closed.
+    std::function<void()> show_worked_calculation;
     /// Writes the Inlet Report of the current inlet.
     std::function<void()> inlet_report;
     /// Writes the Inlet Design Form of all inlets.

@@ -4,6 +4,7 @@
 
 #include "editor/form/inlet_form.h"
 #include "editor/form/screen_fields.h"
+#include "editor/form/worked_calculation.h"
 #include "engine/unit_constants.h"
 #include "shell/binding/copy_texts.h"
 #include "shell/binding/small_screen.h"
@@ -21,6 +22,10 @@ InletFormView::InletFormView(QWidget* parent) : QWidget(parent), ui_(new Ui::frm
     scroll_pages(*ui_->SSTab1);
     fit_results_page(*this);
     order_tabs(*this);
+    // No field: it has no place in the fixed order of the fields and their events, and stands behind them.
+    setTabOrder(ui_->txtGutterSpread, ui_->fixed_worked_calculation);
+    connect(ui_->fixed_worked_calculation, &QPushButton::clicked, this,
+            [] { handle(editor::show_worked_calculation); });
 }
 
 InletFormView::~InletFormView() = default;
@@ -29,6 +34,7 @@ void InletFormView::bind() {
     add_view([this] { carry_out_wishes(); });  // before the binder, which then moves the focus
     binder_ = new Binder(*this, design_form_items());
     add_view([this] { follow_units(); });
+    add_view([this] { ui_->fixed_worked_calculation->setEnabled(editor::has_worked_calculation()); });
     ui_->fixed_section_picture->draw(engine::open_inlet);
     ui_->fixed_results_picture->draw(engine::open_inlet);
     add_view([this] { show_pictures(); });

@@ -1,5 +1,8 @@
 #include "shell/windows/inlet_items.h"
 
+#include <QGroupBox>
+#include <QLabel>
+
 #include "editor/form/field_events.h"
 #include "editor/form/field_keys.h"
 #include "editor/form/inlet_form.h"
@@ -118,6 +121,22 @@ void order_tabs(QWidget& form) {
         }
         before = widget;
     }
+}
+
+std::string caption_of(const QWidget& form, engine::Column column) {
+    const FieldId id = editor::field_of(column);
+    const QWidget* const field = widget_of(form, id);
+    for (const auto* label : form.findChildren<QLabel*>()) {
+        if (field == nullptr || label->buddy() != field) {
+            continue;
+        }
+        const auto frame = screen_field(id).frame;
+        const bool has_side = frame == FieldId::discharge1_frame || frame == FieldId::discharge2_frame;
+        const auto* const side = has_side ? qobject_cast<QGroupBox*>(widget_of(form, *frame)) : nullptr;
+        const QString caption = label->text().remove('&').simplified();
+        return from_qt(side == nullptr || side->title().isEmpty() ? caption : side->title() + ", " + caption);
+    }
+    return {};
 }
 
 void put_tool_tips(QWidget& form) {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
+#include "engine/inlet_record.h"
 #include "shell/binding/screen_item.h"
 
 /// The fields of the inlet design form and of the record view as the binder takes them.
@@ -18,5 +20,8 @@ void order_tabs(QWidget& form);
 
 /// Tells each field's meaning and unit as its tool tip.
 void put_tool_tips(QWidget& form);
+
+/// What stands beside the field of a column on a form, with the side that its frame names; empty where nothing does.
+std::string caption_of(const QWidget& form, engine::Column column);
 
 }  // namespace gullymark::shell

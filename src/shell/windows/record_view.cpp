@@ -23,6 +23,7 @@ RecordView::RecordView() : form_(new Ui::frminletMDIC) {
     scroll_pages(*form_->SSTab1);
     fit_results_page(*this);
     order_tabs(*this);
+    form_->fixed_worked_calculation->hide();  // of the inlet on the form alone
     setObjectName("frmviewinlet");
     resize(sizeHint());
     new Binder(*this, record_view_items());  // owned by the window

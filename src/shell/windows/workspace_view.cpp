@@ -9,6 +9,7 @@
 #include "shell/binding/qt_text.h"
 #include "shell/binding/tool_icon.h"
 #include "shell/binding/turn.h"
+#include "shell/windows/calculation_window.h"
 #include "ui_workspace_view.h"
 
 namespace gullymark::shell {
@@ -31,6 +32,10 @@ WorkspaceView::~WorkspaceView() = default;
 
 void WorkspaceView::move_focus_on() {
     ui_->frminletMDIC->move_focus_on();
+}
+
+void WorkspaceView::show_worked_calculation() {
+    shell::show_worked_calculation(*ui_->frminletMDIC);
 }
 
 void WorkspaceView::build_toolbar() {

@@ -23,6 +23,8 @@ class WorkspaceView : public QMainWindow {
 
     /// As the Tab key in its design form; nothing where the focus may not leave its field.
     void move_focus_on();
+    /// Shows the worked calculation of the inlet on the form, modal, and waits until it is closed.
+    void show_worked_calculation();
 
   protected:
     void closeEvent(QCloseEvent* event) override;

@@ -23,6 +23,7 @@ using testing::Contains;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
 
+constexpr int results_page = 3;
 constexpr auto page_keys = std::to_array({Qt::Key_D, Qt::Key_L, Qt::Key_I, Qt::Key_R});
 
 /// The widgets that Tab goes through from the tabs of the pages on, until it is back.
@@ -61,6 +62,9 @@ std::vector<std::string> usable_fields() {
         if (takes_focus && editor::screen_field(id).tab == page() && screen.usable(id)) {
             fields.emplace_back(editor::field_name(id));
         }
+    }
+    if (page() == results_page) {
+        fields.emplace_back("fixed_worked_calculation");  // the command above the results
     }
     return fields;
 }
