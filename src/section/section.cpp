@@ -149,6 +149,9 @@ std::vector<std::string> notes_of(const engine::InletRecord& record, const Secti
     if (section.water == Water::unsolved) {
         notes.emplace_back("not solved");
     }
+    if (const auto spread = measure_in(record, Column::OPENSPREAD); spread && spread->size == 0) {
+        notes.push_back("spread " + spread->text);
+    }
     note_capture(record, notes);
     note_undrawn(record, notes);
     return notes;

@@ -71,10 +71,11 @@ TEST_F(SpreadOfTheWater, NarrowerThanTheGutterLiesWithinIt) {
     EXPECT_EQ(find_shape(view, Part::former_ground), nullptr) << "there is no depression";
 }
 
-TEST_F(SpreadOfTheWater, OfZeroDrawsNoWater) {
+TEST_F(SpreadOfTheWater, OfZeroDrawsNoWaterAndSaysSo) {
     const Section section = draw_section(curb_on_grade({{Column::OPENSPREAD, "0.000"}}), Water::solved);
     EXPECT_EQ(find_shape(section.views.front(), Part::water), nullptr);
     EXPECT_EQ(find_shape(section.views.front(), Part::surface), nullptr);
+    EXPECT_TRUE(has_note(section, "spread 0.000 ft"));
 }
 
 TEST_F(SpreadOfTheWater, InMetersReadsDepthsInMillimeters) {

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <QHeaderView>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -119,6 +120,30 @@ TEST(SmallScreen, APageThatDoesNotFitScrollsByKeyWhereNoFieldTakesTheFocus) {
     press(workspace(), Qt::Key_Down, Qt::ShiftModifier);
     EXPECT_GT(area->horizontalScrollBar()->value(), 0);
     EXPECT_EQ(page(), 3);
+    road.leave();
+}
+
+/// 1280x720 shows all of both pages; a screen of 1024x768 shows their whole width.
+TEST(SmallScreen, ThePagesWithTheSectionAreSeenWhole) {
+    NewRoad road;
+    save_a_curb_inlet();
+    const QSize screen = workspace().screen()->size();
+    for (const Qt::Key key : {Qt::Key_I, Qt::Key_R}) {
+        press(workspace(), key, Qt::AltModifier);
+        settle();
+        const auto* area =
+            qobject_cast<const QScrollArea*>(workspace().findChild<QTabWidget*>("SSTab1")->currentWidget());
+        if (screen.width() >= 1280 && screen.height() >= 720) {
+            EXPECT_EQ(area->verticalScrollBar()->maximum(), 0) << page();
+        }
+        if (screen.width() >= 1024) {
+            EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << page();
+        }
+        const auto pictures = area->widget()->findChildren<QWidget*>(QRegularExpression("picture$"));
+        ASSERT_EQ(pictures.size(), 1);
+        EXPECT_GE(pictures[0]->width(), 260);
+        EXPECT_GE(pictures[0]->height(), 160);
+    }
     road.leave();
 }
 
