@@ -5,7 +5,7 @@
 #   tools/build_help.sh           the pictures of the figures, the book, and the record of what it was built from
 #   tools/build_help.sh --book F  the book alone, from the pictures as they are, to the file F
 #
-# The pictures of the sheets stand as they are: tools/draw_sheets.sh makes them.
+# The pictures of the sheets and of the sections stand as they are: tools/draw_sheets.sh and tools/draw_sections.sh make them.
 # Needs chmcmd (Debian package fp-utils-3.2.2), and for the pictures rsvg-convert (librsvg2-bin) and imagemagick.
 set -euo pipefail
 help=$(cd "$(dirname "${BASH_SOURCE[0]}")/../resources/help" && pwd)

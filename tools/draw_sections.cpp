@@ -2,7 +2,7 @@
 //
 //     draw_sections [--size=620x300] [--dark] [--unsolved] FOLDER TABLE...
 //
-// writes FOLDER/TABLE_LINE.png for every row that can be solved.
+// writes FOLDER/TABLE_LINE.png for every row, and tells what it shows.
 
 #include <filesystem>
 #include <iostream>
@@ -13,6 +13,7 @@
 #include <QPainter>
 
 #include "engine/inlet_record.h"
+#include "engine/unit_constants.h"
 #include "section/section.h"
 #include "shell/binding/section_painter.h"
 #include "tools/case_table.h"
@@ -45,10 +46,11 @@ bool draw(const Wanted& wanted, const std::string& name) {
     QFont font(QStringLiteral("DejaVu Sans"));
     font.setPixelSize(12);
     painter.setFont(font);
-    const auto water = wanted.unsolved ? section::Water::unsolved : section::Water::solved;
-    shell::paint_section(painter, QRectF(picture.rect()).adjusted(4, 4, -4, -4),
-                         section::draw_section(engine::open_inlet, water), colors_of(wanted));
+    const auto section = section::draw_section(
+        engine::open_inlet, wanted.unsolved ? section::Water::unsolved : section::Water::solved);
+    shell::paint_section(painter, QRectF(picture.rect()).adjusted(4, 4, -4, -4), section, colors_of(wanted));
     painter.end();
+    std::cout << name << ": " << section.sentence << '\n';
     return picture.save(QString::fromStdString((wanted.folder / (name + ".png")).string()));
 }
 
@@ -59,6 +61,10 @@ bool draw_table(const Wanted& wanted, const std::string& path) {
     for (const auto& row : table.rows) {
         ++line;
         cases::solve_row(table, row);
+        if (engine::open_inlet.text(engine::Column::CURB_HEIGHT).empty()) {
+            engine::open_inlet.load(engine::Column::CURB_HEIGHT,
+                                    engine::by_units("6.0", "150"));  // as new inlets have
+        }
         if (!draw(wanted, stem + '_' + std::to_string(line))) {
             return false;
         }

@@ -28,7 +28,7 @@ complain_of "not what GullymarkAL.chm was built from:" "$(diff <(echo "$recorded
 
 # The project file names every page and picture, the contents and the links only what is there.
 parts=$(sed -n '/^\[FILES\]/,$p' GullymarkAL.hhp | tail -n +2 | LC_ALL=C sort)
-files=$(ls ./*.html ./*.css figures/*.png sheets/*.png | sed 's|^\./||' | LC_ALL=C sort)
+files=$(ls ./*.html ./*.css figures/*.png sheets/*.png sections/*.png | sed 's|^\./||' | LC_ALL=C sort)
 complain_of "[FILES] of GullymarkAL.hhp differs from the folder:" "$(diff <(echo "$parts") <(echo "$files") | grep '^[<>]')"
 complain_of "figures without a picture or a source:" \
   "$(diff <(basename -s .svg figures/*.svg) <(basename -s .png figures/*.png) | grep '^[<>]')"
