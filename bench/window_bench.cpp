@@ -8,15 +8,19 @@
 #include <QApplication>
 #include <QTableView>
 
+#include "calculation/worked_calculation.h"
 #include "editor/form/field_events.h"
 #include "editor/form/screen_fields.h"
 #include "editor/form/solve_command.h"
 #include "editor/windows/inlet_list.h"
 #include "editor/windows/workspace_menu.h"
+#include "engine/unit_constants.h"
 #include "many_inlets.h"
 #include "platform/files.h"
 #include "shell/binding/turn.h"
 #include "shell/start.h"
+#include "shell/windows/calculation_window.h"
+#include "tools/case_table.h"
 
 namespace {
 
@@ -116,6 +120,37 @@ void open_the_listing(benchmark::State& state) {
     Windows::leave();
 }
 
+/// An inlet of a kind: 0 to 9 in the order of the table, ENGLISH.
+void solve_kind(std::int64_t kind) {
+    constexpr std::size_t of_each_kind = 30;
+    const auto table = cases::read_table(GULLYMARK_SOURCE_DIR "/tests/cases/solves_ordinary.tsv");
+    cases::solve_row(table, table.rows.at(static_cast<std::size_t>(kind) * of_each_kind));
+}
+
+calculation::Document work_out() {
+    return calculation::work_out({.inlet = engine::open_inlet, .units = engine::UnitSystem});
+}
+
+void work_an_inlet_out(benchmark::State& state) {
+    solve_kind(state.range(0));
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(work_out());
+    }
+}
+
+/// Worked out, laid out and painted.
+void show_a_worked_calculation(benchmark::State& state) {
+    const Windows windows;
+    solve_kind(state.range(0));
+    for (auto _ : state) {
+        shell::CalculationWindow calculation(work_out(), section::Water::solved);
+        calculation.show();
+        settle();
+    }
+}
+
+BENCHMARK(work_an_inlet_out)->DenseRange(0, 9);
+BENCHMARK(show_a_worked_calculation)->DenseRange(0, 9)->UseRealTime();
 BENCHMARK(open_until_painted)->Apply(bench::sizes)->UseRealTime();
 BENCHMARK(pick_a_row)->Apply(bench::sizes)->UseRealTime();
 BENCHMARK(save_a_row)->Apply(bench::sizes)->UseRealTime();

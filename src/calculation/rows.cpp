@@ -91,7 +91,7 @@ Row input_row(Column column, const std::string& text, const Caption& caption) {
     return {.kind = Row::Kind::input,
             .symbol = name,
             .formula = name,
-            .value = text.empty() ? "blank" : text,
+            .value = text.empty() ? "blank" : shortened(text),
             .unit = text.empty() ? "" : unit_of(engine::column_unit(column)),
             .meaning = caption_of(column, caption)};
 }
@@ -221,7 +221,8 @@ class Writer {
 
     static std::string abandoned(const TraceLine& line) {
         std::string text = "abandoned, " + std::string(engine::fault_text(line.fault)) + "; it stays ";
-        text += line.kind == TraceLine::Kind::text ? '"' + line.text + '"' : number_of(line.number);
+        text +=
+            line.kind == TraceLine::Kind::text ? '"' + shortened(line.text) + '"' : number_of(line.number);
         const std::string unit = unit_of(line.unit);
         return unit.empty() ? text : text + ' ' + unit;
     }
@@ -231,7 +232,7 @@ class Writer {
                 .symbol = std::string(line.symbol),
                 .formula = printed(line.formula, Style::symbols),
                 .numbers = printed(line.formula, Style::numbers),
-                .value = line.kind == TraceLine::Kind::text ? line.text : number_of(line.number),
+                .value = line.kind == TraceLine::Kind::text ? shortened(line.text) : number_of(line.number),
                 .unit = unit_of(line.unit),
                 .meaning = meaning_of(line)};
         if (line.kind == TraceLine::Kind::text && line.formula.kind != Spelling::Kind::words) {
@@ -314,7 +315,7 @@ class Writer {
                 if (is_shown_as_box(working.text)) {
                     return;  // it stands there as a message
                 }
-                row = {.kind = Row::Kind::note, .remark = working.text};
+                row = {.kind = Row::Kind::note, .remark = typeset(working.text)};
                 break;
         }
         add(std::move(row));

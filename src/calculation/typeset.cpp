@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/characters.h"
+
 namespace gullymark::calculation {
 namespace {
 
@@ -24,15 +26,27 @@ constexpr auto signs = std::to_array<Sign>({
 
 }  // namespace
 
+std::string shortened(std::string_view text) {
+    constexpr std::size_t longest = 60;
+    std::string line = platform::on_one_line(text);
+    if (std::string head = platform::first_characters(line, longest); head != line) {
+        return head + "...";
+    }
+    return line;
+}
+
 std::string typeset(std::string_view formula) {
     std::string printed;
-    bool quoted = false;
     while (!formula.empty()) {
-        const auto* const sign = std::find_if(signs.begin(), signs.end(), [&](const Sign& each) {
-            return !quoted && formula.starts_with(each.written);
-        });
+        if (formula.front() == '"') {
+            const auto end = std::min(formula.find('"', 1), formula.size());
+            printed += '"' + shortened(formula.substr(1, end - 1)) + '"';
+            formula.remove_prefix(std::min(end + 1, formula.size()));
+            continue;
+        }
+        const auto* const sign = std::find_if(
+            signs.begin(), signs.end(), [&](const Sign& each) { return formula.starts_with(each.written); });
         if (sign == signs.end()) {
-            quoted = (formula.front() == '"') != quoted;
             printed += formula.front();
             formula.remove_prefix(1);
         } else {

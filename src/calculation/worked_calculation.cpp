@@ -6,6 +6,7 @@
 
 #include "calculation/rows.h"
 #include "calculation/solve_copy.h"
+#include "calculation/typeset.h"
 #include "engine/results.h"
 #include "engine/solve.h"
 #include "engine/unit_constants.h"
@@ -72,6 +73,9 @@ std::vector<TitleField> title_block(const Request& request, const std::string& d
         }
         block.push_back({label, text});
     }
+    for (auto& field : block) {
+        field.text = shortened(field.text);
+    }
     return block;
 }
 
@@ -103,7 +107,7 @@ SolvedCopy solve_like_stored(const Request& request) {
 }
 
 std::string quoted(const std::string& text) {
-    return text.empty() ? "blank" : text;
+    return text.empty() ? "blank" : shortened(text);
 }
 
 bool has_results(const engine::InletRecord& inlet) {
@@ -187,7 +191,7 @@ Document work_out(const Request& request) {
     WrittenSteps steps = write_steps(solved, sheet, request.caption);
 
     Document document{.title = "WORKED CALCULATION",
-                      .inlet = request.inlet.text(Column::INLET_NUMBER),
+                      .inlet = shortened(request.inlet.text(Column::INLET_NUMBER)),
                       .date = date_text(request.today)};
     document.title_block = title_block(request, document.date);
     document.warnings = warnings_of(request, solved);

@@ -20,22 +20,23 @@ struct State {
     void (*on_first_change)() = nullptr;
     bool solved = false;
     std::string units;
-    std::vector<double> constants;
+    std::vector<float> constants;
     std::string number_format;
     std::vector<engine::TraceLine>* trace = nullptr;
 
     static State now() {
         const auto& constants = engine::unit_constants;
-        State state{.changed = engine::open_inlet.changed(),
-                    .on_first_change = engine::open_inlet.on_first_change,
-                    .solved = engine::DataSolved,
-                    .units = engine::UnitSystem,
-                    .constants = {constants.gutterFlowConstant, constants.sideFlowConstant,
-                                  constants.curbLengthConstant, constants.manningConstant,
-                                  constants.depthFactor, constants.gravity,
-                                  static_cast<double>(constants.curbLengthLimit), constants.weirCoefficient},
-                    .number_format = constants.numberFormat,
-                    .trace = engine::onlooker.trace};
+        State state{
+            .changed = engine::open_inlet.changed(),
+            .on_first_change = engine::open_inlet.on_first_change,
+            .solved = engine::DataSolved,
+            .units = engine::UnitSystem,
+            .constants = {constants.gutterFlowConstant, constants.sideFlowConstant,
+                          constants.curbLengthConstant, constants.manningConstant, constants.depthFactor,
+                          constants.gravity, static_cast<float>(constants.curbLengthLimit),
+                          static_cast<float>(constants.weirCoefficient)},
+            .number_format = constants.numberFormat,
+            .trace = engine::onlooker.trace};
         for (const auto column : engine::all_columns) {
             state.texts.push_back(engine::open_inlet.value(column));
         }
@@ -100,6 +101,35 @@ class EveryCase : public CalculationTest, public testing::WithParamInterface<con
                     *departures.rbegin() == static_cast<int>(document.departures.size()));
     }
 
+    /// Every statement of the sheet that ran is told: in its order, or with what it stored.
+    static void expect_all_steps(const Document& document) {
+        std::vector<engine::TraceLine> trace;
+        const engine::InletRecord before = engine::open_inlet;
+        engine::open_inlet.on_first_change = nullptr;
+        engine::onlooker = {.trace = &trace};
+        engine::check_and_solve();
+        engine::onlooker = {};
+        engine::open_inlet = before;
+        std::set<int> ran;
+        for (const auto& line : trace) {
+            ran.insert(line.step);
+        }
+        std::set<int> told;
+        int last = 0;
+        for (const auto& section : document.sections) {
+            for (const auto& row : section.rows) {
+                told.insert(row.step);
+                if (row.step != 0 && row.kind != Row::Kind::result) {
+                    EXPECT_GT(row.step, last);
+                    last = row.step;
+                }
+            }
+        }
+        told.erase(0);
+        // A result that is stored twice keeps the step of the last time.
+        EXPECT_EQ(told, ran);
+    }
+
     /// The last lines tell what is stored, to the character.
     static void expect_results(const Document& document) {
         std::map<std::string, std::string> told;
@@ -123,6 +153,7 @@ class EveryCase : public CalculationTest, public testing::WithParamInterface<con
         expect_document_is_whole(document);
         if (document.warnings.empty()) {
             expect_results(document);
+            expect_all_steps(document);
             ++kinds[text(Column::INLET_TYPE) + ' ' + text(Column::INLET_LOCATION) + ' ' + engine::UnitSystem];
         }
         const std::string told = as_text(document);

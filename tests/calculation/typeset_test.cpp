@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/characters.h"
+
 namespace gullymark::calculation {
 namespace {
 
@@ -19,6 +21,15 @@ TEST(Typeset, SignsOfAFormulaBecomeThoseOfPrint) {
 TEST(Typeset, ATextOfTheUserStaysAsItIs) {
     EXPECT_EQ(typeset("INLET_SUBTYPE = \"X - DI x Grate\" or W x 2"),
               "INLET_SUBTYPE = \"X - DI x Grate\" or W \u00D7 2");
+}
+
+TEST(Typeset, ATextOfAnyLengthStaysOnItsLine) {
+    const std::string longest(60, 'a');
+    EXPECT_EQ(shortened(longest), longest);
+    EXPECT_EQ(shortened(longest + "b"), longest + "...");
+    EXPECT_EQ(shortened("two\r\nlines"), platform::on_one_line("two\r\nlines"));
+    EXPECT_EQ(typeset("S = \"" + longest + "b\" and W x 2"), "S = \"" + longest + "...\" and W \u00D7 2");
+    EXPECT_EQ(typeset("S = \"never closed"), "S = \"never closed\"");
 }
 
 }  // namespace

@@ -23,7 +23,7 @@ using Told = std::array<std::string, 4>;
 std::vector<std::string> cells_of(const std::string& line) {
     std::vector<std::string> cells;
     for (std::size_t start = 2, end = 0; start < line.size(); start = end + 2) {
-        end = line.find("|", start);
+        end = line.find('|', start);
         cells.push_back(end == start ? "" : line.substr(start, end - start - 1));
     }
     return cells;

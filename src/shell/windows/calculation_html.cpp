@@ -15,9 +15,9 @@ using calculation::Row;
 constexpr std::array widths{4, 47, 13, 18, 18};
 
 // So many letters of formula and numbers stand on one line; with more the numbers begin a new one.
-constexpr qsizetype one_line_letters = 58;
+constexpr qsizetype one_line_letters = 46;
 
-constexpr const char* beside_value = " style=\"padding-left:9px\"";
+constexpr const char* beside_value = R"( style="padding-left:9px")";
 
 QString escaped(const std::string& text) {
     return to_qt(text).toHtmlEscaped();
@@ -76,7 +76,7 @@ QString cell(int column, const QString& html, const char* more = "", int span = 
     for (int i = column; i < column + span; ++i) {
         width += widths.at(static_cast<std::size_t>(i));
     }
-    return QStringLiteral("<td width=\"%1%\" colspan=\"%2\"%3>%4</td>").arg(width).arg(span).arg(more, html);
+    return QStringLiteral(R"(<td width="%1%" colspan="%2"%3>%4</td>)").arg(width).arg(span).arg(more, html);
 }
 
 QString small(const QString& html) {
@@ -95,6 +95,19 @@ QString value_of(const Row& row) {
     return escaped(row.value) + (row.unit.empty() ? QString() : ' ' + escaped(row.unit));
 }
 
+bool is_inner(const Row& row) {
+    return row.kind == Row::Kind::detail || row.kind == Row::Kind::search;
+}
+
+/// So far in stands what belongs to the step above it, and the second line of a formula two blanks more.
+QString indent_of(const Row& row) {
+    return is_inner(row) ? QStringLiteral("&nbsp;&nbsp;&nbsp;") : QString();
+}
+
+QString new_line(const Row& row) {
+    return "<br>" + indent_of(row) + "&nbsp;&nbsp;";
+}
+
 QString formula_of(const Row& row) {
     QString html = set_formula(to_qt(row.symbol));
     if (!row.formula.empty()) {
@@ -102,7 +115,7 @@ QString formula_of(const Row& row) {
     }
     if (!row.numbers.empty()) {
         const bool fits = to_qt(row.symbol + row.formula + row.numbers).size() <= one_line_letters;
-        html += QString(fits ? " " : "<br>&nbsp;&nbsp;") + "= " + formula_html(row.numbers);
+        html += (fits ? QStringLiteral(" ") : new_line(row)) + "= " + formula_html(row.numbers);
     }
     return html;
 }
@@ -111,7 +124,7 @@ QString condition_of(const Row& row) {
     QString html = "if " + formula_html(row.formula);
     if (!row.numbers.empty()) {
         const bool fits = to_qt(row.formula + row.numbers).size() <= one_line_letters;
-        html += QString(fits ? ": " : ":<br>&nbsp;&nbsp;") + formula_html(row.numbers);
+        html += ":" + (fits ? QStringLiteral(" ") : new_line(row)) + formula_html(row.numbers);
     }
     return html;
 }
@@ -147,17 +160,17 @@ QStringList list_html(const char* heading, const std::vector<std::string>& lines
     int number = 0;
     for (const auto& line : lines) {
         const QString mark = numbered ? QStringLiteral("(%1) ").arg(++number) : QString();
-        paragraphs << "<p style=\"margin:0\">" + small(mark + escaped(line)) + "</p>";
+        paragraphs << R"(<p style="margin:0">)" + small(mark + escaped(line)) + "</p>";
     }
     return paragraphs;
 }
 
 QString title_block_html(const std::vector<calculation::TitleField>& fields) {
     constexpr std::size_t in_a_row = 3;
-    QString html = "<table width=\"100%\" cellspacing=\"0\" cellpadding=\"1\">";
+    QString html = table_html();
     for (std::size_t i = 0; i < fields.size(); ++i) {
         html += i % in_a_row == 0 ? "<tr>" : "";
-        html += "<td width=\"11%\">" + small(escaped(fields[i].label)) + "</td><td width=\"22%\"><b>" +
+        html += R"(<td width="11%">)" + small(escaped(fields[i].label)) + R"(</td><td width="22%"><b>)" +
                 escaped(fields[i].text) + "</b></td>";
         html += i % in_a_row == in_a_row - 1 || i + 1 == fields.size() ? "</tr>" : "";
     }
@@ -175,32 +188,30 @@ QString head_html(const calculation::Document& document) {
     for (const auto& warning : document.warnings) {
         html += "<p><b>" + escaped(warning) + "</b></p>";
     }
-    return html + "<h2 style=\"margin:4px 0\">" + escaped(document.title) + "</h2>" +
+    return html + R"(<h2 style="margin:4px 0">)" + escaped(document.title) + "</h2>" +
            title_block_html(document.title_block);
 }
 
 QString row_html(const Row& row) {
-    const bool is_inner = row.kind == Row::Kind::detail || row.kind == Row::Kind::search;
     const QString number = row.step == 0 ? QString() : small(QString::number(row.step));
-    QString formula = (is_inner ? "&nbsp;&nbsp;&nbsp;" : "") + told(row);
+    QString formula = indent_of(row) + told(row);
     const bool is_told = row.kind == Row::Kind::message || row.kind == Row::Kind::note;
     if (!row.remark.empty() && !is_told) {
-        formula += "<br>" + small(escaped(row.remark));
+        formula += new_line(row) + small(escaped(row.remark));
     }
     QString html = "<tr>" + cell(0, number);
     if (is_told) {
-        html +=
-            cell(1, is_told && row.kind == Row::Kind::message ? "<b>" + formula + "</b>" : formula, "", 4);
+        html += cell(1, row.kind == Row::Kind::message ? "<b>" + formula + "</b>" : formula, "", 4);
     } else {
         const QString value = row.kind == Row::Kind::result ? "<b>" + value_of(row) + "</b>" : value_of(row);
-        html += cell(1, formula) + cell(2, value, " align=\"right\"") +
+        html += cell(1, formula) + cell(2, value, R"( align="right")") +
                 cell(3, small(escaped(row.meaning)), beside_value) + cell(4, source_of(row), beside_value);
     }
     return html + "</tr>";
 }
 
 QString heading_html(const std::string& heading) {
-    return "<h3 style=\"margin:6px 0 1px 0\">" + escaped(heading) + "</h3>";
+    return R"(<h3 style="margin:6px 0 1px 0">)" + escaped(heading) + "</h3>";
 }
 
 QStringList departures_html(const calculation::Document& document) {
@@ -212,7 +223,7 @@ QStringList legend_html(const calculation::Document& document) {
 }
 
 QString table_html() {
-    return QStringLiteral("<table width=\"100%\" cellspacing=\"0\" cellpadding=\"1\">");
+    return QStringLiteral(R"(<table width="100%" cellspacing="0" cellpadding="1">)");
 }
 
 QString document_html(const calculation::Document& document) {

@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPdfWriter>
+#include <QTextOption>
 
 #include "shell/binding/qt_text.h"
 #include "shell/binding/section_colors.h"
@@ -31,6 +32,13 @@ QFont page_font(qreal points) {
     return font;
 }
 
+/// A number of hundreds of digits takes several lines.
+QTextOption break_anywhere() {
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    return option;
+}
+
 /// What is printed is black on white, whatever the desktop's palette.
 QPalette paper() {
     QPalette palette(Qt::white);
@@ -45,6 +53,23 @@ QSizeF page_size(const QPagedPaintDevice& device) {
 }
 
 }  // namespace
+
+std::vector<std::size_t> first_blocks(const std::vector<BlockSize>& blocks, qreal room) {
+    std::vector<std::size_t> pages{0};
+    qreal used = 0.0;
+    for (std::size_t i = 0; i < blocks.size(); ++i) {
+        qreal needed = blocks[i].height;
+        for (std::size_t last = i; blocks[last].keeps_next && last + 1 < blocks.size(); ++last) {
+            needed += blocks[last + 1].height;
+        }
+        if (used > 0.0 && used + needed > room) {
+            pages.push_back(i);
+            used = 0.0;
+        }
+        used += blocks[i].height;
+    }
+    return pages;
+}
 
 CalculationPages::CalculationPages(const calculation::Document& document, const section::Section& section,
                                    QPagedPaintDevice& device)
@@ -70,6 +95,7 @@ void CalculationPages::add(const QString& html, bool keeps_next) {
     text->setDocumentMargin(0);
     text->setDefaultFont(page_font(text_points));
     text->setUseDesignMetrics(true);
+    text->setDefaultTextOption(break_anywhere());
     text->documentLayout()->setPaintDevice(&device_);
     text->setHtml(html);
     text->setTextWidth(page_size(device_).width());
@@ -82,20 +108,11 @@ void CalculationPages::add_picture() {
 }
 
 void CalculationPages::break_into_pages() {
-    const qreal room = page_size(device_).height() - foot_inches * device_.logicalDpiY();
-    qreal used = 0.0;
-    pages_ = {0};
-    for (std::size_t i = 0; i < blocks_.size(); ++i) {
-        qreal needed = blocks_[i].height;
-        for (std::size_t next = i; blocks_[next].keeps_next && next + 1 < blocks_.size(); ++next) {
-            needed += blocks_[next + 1].height;
-        }
-        if (used > 0.0 && used + needed > room) {
-            pages_.push_back(i);
-            used = 0.0;
-        }
-        used += blocks_[i].height;
+    std::vector<BlockSize> sizes;
+    for (const Block& block : blocks_) {
+        sizes.push_back({block.height, block.keeps_next});
     }
+    pages_ = first_blocks(sizes, page_size(device_).height() - foot_inches * device_.logicalDpiY());
 }
 
 bool CalculationPages::paint() {

@@ -15,6 +15,15 @@ class QPainter;
 
 namespace gullymark::shell {
 
+/// What is never broken: a line, or a heading, which stands on the page of the next one.
+struct BlockSize {
+    qreal height = 0.0;
+    bool keeps_next = false;
+};
+
+/// The first block of each page, for pages with that much room; one that is higher than a page has a page of its own.
+std::vector<std::size_t> first_blocks(const std::vector<BlockSize>& blocks, qreal room);
+
 /// The worked calculation on the pages of a printer or a PDF file. A line stands whole on one page, a heading on the page of
 /// the first line below it; each page tells the inlet, the date and its number.
 class CalculationPages {
