@@ -68,6 +68,20 @@ bool only_stores(const TraceLine& line) {
            !line.formula.column;
 }
 
+/// The last step that wrote the column.
+const TraceLine* last_step_of(const SolvedCopy& solved, std::string_view column) {
+    const auto found = std::find_if(solved.trace.rbegin(), solved.trace.rend(), [&](const TraceLine& line) {
+        return line.kind == TraceLine::Kind::text && line.fault == Fault::none && line.symbol == column;
+    });
+    return found == solved.trace.rend() ? nullptr : &*found;
+}
+
+/// A step whose result the end of the sheet tells: no later step writes there, and no solver took it back.
+bool is_told_as_a_result(const SolvedCopy& solved, const TraceLine& line) {
+    return only_stores(line) && solved.solved && last_step_of(solved, line.symbol) == &line &&
+           !solved.inlet.text(*engine::column_named(line.symbol)).empty();
+}
+
 /// The column's text as it was read.
 const Spelling* find_reading(const Spelling& spelling, Column column) {
     if (spelling.column == column) {
@@ -191,7 +205,7 @@ class Writer {
 
     void write_line(const TraceLine& line) {
         write_constants(line.formula);
-        if (only_stores(line)) {
+        if (is_told_as_a_result(solved_, line)) {
             return;
         }
         if (only_reads(line)) {
@@ -246,6 +260,9 @@ class Writer {
             row.remark = abandoned(line);
         }
         cite(row, engine::source_of_step(sheet_, line.symbol, line.formula));
+        if (only_stores(line)) {
+            row.source = engine::own_rule;
+        }
         add(std::move(row));
     }
 
@@ -331,14 +348,6 @@ class Writer {
     std::set<std::string> targets_;
     std::set<std::string> constants_;
 };
-
-/// The last step that wrote the column.
-const TraceLine* last_step_of(const SolvedCopy& solved, std::string_view column) {
-    const auto found = std::find_if(solved.trace.rbegin(), solved.trace.rend(), [&](const TraceLine& line) {
-        return line.kind == TraceLine::Kind::text && line.fault == Fault::none && line.symbol == column;
-    });
-    return found == solved.trace.rend() ? nullptr : &*found;
-}
 
 const TraceLine* rounding_of(const SolvedCopy& solved, std::string_view column) {
     const auto found = std::find_if(solved.roundings.begin(), solved.roundings.end(),

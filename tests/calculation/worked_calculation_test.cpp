@@ -172,6 +172,7 @@ TEST_F(WorkedCalculation, ABoxThatTheSolverShowsStandsBehindTheStepThatLedToIt) 
     EXPECT_EQ(last.rows[1].remark, "No results computed.  Invalid input.");
     EXPECT_THAT(document.warnings, SizeIs(1));
     EXPECT_THAT(boxes, IsEmpty());
+    EXPECT_EQ(row_for(document, "GUTTERSPREAD").step, 27) << "stored, and then taken back";
 }
 
 TEST_F(WorkedCalculation, AnUnknownKindIsToldSo) {
