@@ -120,6 +120,22 @@ void open_the_listing(benchmark::State& state) {
     Windows::leave();
 }
 
+/// A digit in a field of the inlet data, which the section beside it follows.
+void type_a_digit(benchmark::State& state) {
+    const Windows windows;
+    Windows::open(state.range(0));
+    handle(editor::mnuEditinlet_Click);
+    handle([] { editor::tab_clicked(2); });
+    settle();
+    bool wide = false;
+    for (auto _ : state) {
+        wide = !wide;
+        handle([wide] { editor::edited(editor::FieldId::txtW, wide ? "3.5" : "2.5"); });
+        settle();
+    }
+    Windows::leave();
+}
+
 /// An inlet of a kind: 0 to 9 in the order of the table, ENGLISH.
 void solve_kind(std::int64_t kind) {
     constexpr std::size_t of_each_kind = 30;
@@ -154,6 +170,7 @@ BENCHMARK(show_a_worked_calculation)->DenseRange(0, 9)->UseRealTime();
 BENCHMARK(open_until_painted)->Apply(bench::sizes)->UseRealTime();
 BENCHMARK(pick_a_row)->Apply(bench::sizes)->UseRealTime();
 BENCHMARK(save_a_row)->Apply(bench::sizes)->UseRealTime();
+BENCHMARK(type_a_digit)->Arg(10)->UseRealTime();
 BENCHMARK(open_the_listing)->Apply(bench::sizes)->UseRealTime();
 
 }  // namespace
