@@ -6,6 +6,7 @@
 #include "engine/unit_constants.h"
 #include "platform/number_text.h"
 #include "section/inlet_works.h"
+#include "section/inputs.h"
 
 namespace gullymark::section {
 namespace {
@@ -48,11 +49,16 @@ double left_end(const engine::InletRecord& record, bool at_inlet) {
     return has_box ? -box_width(record) - usual(0.5) : -usual(1.0);
 }
 
+/// The size of a column that the kind of inlet has, else 0.
+double own_size(const engine::InletRecord& record, Column column) {
+    return is_input(column, record) ? size_in(record, column) : 0;
+}
+
 double right_end(const engine::InletRecord& record, const Bed& bed, const Spread& water) {
     const auto size = [](const std::optional<Measure>& measure) { return measure ? measure->size : 0; };
     const double farthest =
         std::max({usual(2), size(water.spread), size(water.allowable), bed.gutter.W, bed.depressed_width,
-                  size_in(record, Column::GRATEWIDTH), size_in(record, Column::SLOTWIDTH)});
+                  own_size(record, Column::GRATEWIDTH), own_size(record, Column::SLOTWIDTH)});
     return farthest * 1.1 + usual(0.3);
 }
 

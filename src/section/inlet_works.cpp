@@ -6,6 +6,7 @@
 
 #include "engine/words.h"
 #include "platform/number_text.h"
+#include "section/inputs.h"
 
 namespace gullymark::section {
 namespace {
@@ -40,9 +41,15 @@ struct Throat {
     Point lip;
 };
 
+/// A size above 0 that the kind of inlet has.
+std::optional<Measure> own_measure(const engine::InletRecord& record, Column column) {
+    const auto measure = measure_in(record, column);
+    return is_input(column, record) && measure && measure->size > 0 ? measure : std::nullopt;
+}
+
 Throat throat_of(const engine::InletRecord& record, const Bed& bed) {
     const double bottom = bed.height(0);
-    const auto opening = measure_in(record, Column::HEIGHTOFCURB);
+    const auto opening = own_measure(record, Column::HEIGHTOFCURB);
     const double clear = std::max(curb_height(record) - usual(hood), usual(hood)) - bottom;
     const double h = opening ? opening->size : clear;
     const std::string& kind = record.text(Column::THROATYPE);
@@ -102,7 +109,8 @@ double curb_height(const engine::InletRecord& record) {
 }
 
 double box_width(const engine::InletRecord& record) {
-    return std::max(usual(box), 1.5 * size_in(record, Column::HEIGHTOFCURB));
+    const auto opening = own_measure(record, Column::HEIGHTOFCURB);
+    return std::max(usual(box), opening ? 1.5 * opening->size : 0);
 }
 
 void add_curb(View& view, const engine::InletRecord& record, const Bed& bed) {
@@ -126,7 +134,7 @@ void add_opening(View& view, const engine::InletRecord& record, const Bed& bed) 
     if (!upright) {
         add_shape(view, Part::concrete, box_of(back, bottom - usual(hood), throat.lip.x, roof));
     }
-    if (const auto opening = measure_in(record, Column::HEIGHTOFCURB); opening && opening->size > 0) {
+    if (const auto opening = own_measure(record, Column::HEIGHTOFCURB)) {
         if (upright) {
             view.dimensions.push_back({.run = Dimension::Run::upright,
                                        .from = {throat.lip.x, throat.edge.y},
@@ -172,8 +180,8 @@ void add_grate(View& view, const engine::InletRecord& record, double left, const
 }
 
 void add_slot(View& view, const engine::InletRecord& record, const Bed& bed) {
-    const auto given = measure_in(record, Column::SLOTWIDTH);
-    const double width = given && given->size > 0 ? given->size : usual(usual_slot);
+    const auto given = own_measure(record, Column::SLOTWIDTH);
+    const double width = given ? given->size : usual(usual_slot);
     add_shape(
         view, Part::hollow,
         {{0, floor_below(bed)}, {0, bed.height(0)}, {width, bed.height(width)}, {width, floor_below(bed)}});
@@ -184,7 +192,7 @@ void add_slot(View& view, const engine::InletRecord& record, const Bed& bed) {
                    {x + usual(lip), bed.height(x + usual(lip))},
                    {x + usual(lip), floor_below(bed)}});
     }
-    if (given && given->size > 0) {
+    if (given) {
         add_below(view, {0, bed.height(0)}, {width, bed.height(width)}, "slot", given->text);
     }
 }

@@ -11,6 +11,7 @@
 #include "section/approaches.h"
 #include "section/ditch.h"
 #include "section/gutter.h"
+#include "section/inputs.h"
 #include "section/measures.h"
 
 namespace gullymark::section {
@@ -131,7 +132,10 @@ void note_undrawn(const engine::InletRecord& record, std::vector<std::string>& n
         std::pair{Column::RSCOPERATIO, "zr"}};
     std::string undrawn;
     for (const auto& [column, name] : sizes) {
-        if (!record.text(column).empty() && record.text(column) != "-" && !measure_in(record, column)) {
+        const bool is_own = is_input(column, record) || column == Column::OPENSPREAD ||
+                            (column == Column::CURB_HEIGHT && !is_ditch(record));
+        const std::string& text = record.text(column);
+        if (is_own && !text.empty() && text != "-" && !measure_in(record, column)) {
             undrawn += (undrawn.empty() ? "cannot be drawn: " : ", ") + std::string(name);
         }
     }
@@ -144,15 +148,15 @@ std::vector<std::string> notes_of(const engine::InletRecord& record, const Secti
     std::vector<std::string> notes{"vertical x " + platform::number_text(section.exaggeration)};
     if (section.water == Water::none) {
         notes.emplace_back("no results");
-        return notes;
-    }
-    if (section.water == Water::unsolved) {
+    } else if (section.water == Water::unsolved) {
         notes.emplace_back("not solved");
     }
     if (const auto spread = measure_in(record, Column::OPENSPREAD); spread && spread->size == 0) {
         notes.push_back("spread " + spread->text);
     }
-    note_capture(record, notes);
+    if (section.water != Water::none) {
+        note_capture(record, notes);
+    }
     note_undrawn(record, notes);
     return notes;
 }

@@ -9,9 +9,6 @@
 
 namespace gullymark::section {
 
-/// The columns that the results of an inlet of this record's kind depend on.
-[[nodiscard]] bool is_input(engine::Column column, const engine::InletRecord& record);
-
 /// Watches one record and tells whether its results belong to its inputs. Its first change tells that something was
 /// written; this tells whether it is something that the water depends on: a page that empties the fields of other kinds, a
 /// format of the same number or a station leave the water as it was.

@@ -144,6 +144,18 @@ TEST_F(SectionOfAnInlet, OpensTheCurbByTheThroatOfASump) {
                 0.25, 1e-9);
 }
 
+TEST_F(SectionOfAnInlet, DrawsNothingOfAFieldThatItsKindDoesNotHave) {
+    const Texts left_over{{Column::HEIGHTOFCURB, "9.00"},
+                          {Column::THROATYPE, "Vertical"},
+                          {Column::SLOTWIDTH, "900"},
+                          {Column::GRATEWIDTH, "wide"}};
+    const Section plain = draw_section(curb_on_grade(), Water::solved);
+    const Section section = draw_section(curb_on_grade(left_over), Water::solved);
+    EXPECT_EQ(find_dimension(section.views.front(), "h "), nullptr);
+    EXPECT_DOUBLE_EQ(section.views.front().high.x, plain.views.front().high.x);
+    EXPECT_EQ(section.notes, plain.notes);
+}
+
 TEST_F(SectionOfAnInlet, CutsADitchAcrossOnAGrade) {
     const Section section = draw_section(ditch("CONTINUOUS GRADE", {{Column::GUTWIDTH, "2.000"},
                                                                     {Column::LSCOPERATIO, "3.000"},

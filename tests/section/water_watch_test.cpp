@@ -7,6 +7,7 @@
 
 #include "engine/solve.h"
 #include "engine/step.h"
+#include "section/inputs.h"
 #include "section_fixture.h"
 #include "tools/case_table.h"
 

@@ -50,8 +50,11 @@ std::vector<PlacedView> place_views(const QRectF& area, const Section& section, 
     double most = -1;
     for (const Rooms& rooms : arrangements(area, 10 * font_unit(font))) {
         auto placed = place_in(rooms, section, font);
-        const double size =
-            1.5 * placed[0].drawing.width() + placed[1].drawing.width() + placed[2].drawing.width();
+        const auto worth = [](const PlacedView& view) {
+            constexpr double loss = 0.1;
+            return view.drawing.width() * (1 - loss * view.losses);
+        };
+        const double size = 1.5 * worth(placed[0]) + worth(placed[1]) + worth(placed[2]);
         if (size > most) {
             most = size;
             best = std::move(placed);

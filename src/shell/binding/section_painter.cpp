@@ -154,14 +154,12 @@ class ViewPainter {
             painter_.setPen(pen(colors_.faint, 0.8));
             painter_.drawLine(QLineF(dimension.label.box.right(), dimension.label.box.center().y(),
                                      dimension.line.x1(), dimension.line.center().y()));
-        } else if (!dimension.label.box.intersects(
-                       QRectF(dimension.line.p1(), QSizeF(dimension.line.dx(), 1)))) {
-            const double end =
-                dimension.label.box.left() > dimension.line.x2() ? dimension.line.x2() : dimension.line.x1();
-            const double text = dimension.label.box.left() > dimension.line.x2()
-                                    ? dimension.label.box.left()
-                                    : dimension.label.box.right();
-            painter_.drawLine(QLineF(end, dimension.line.y1(), text, dimension.line.y1()));
+        } else if (dimension.label.box.left() >= dimension.line.x2()) {
+            painter_.drawLine(
+                QLineF(dimension.line.p2(), QPointF(dimension.label.box.left(), dimension.line.y1())));
+        } else if (dimension.label.box.right() <= dimension.line.x1()) {
+            painter_.drawLine(
+                QLineF(QPointF(dimension.label.box.right(), dimension.line.y1()), dimension.line.p1()));
         }
     }
 
@@ -191,7 +189,9 @@ class ViewPainter {
             clear(mark.label);
             paint_text(mark.label, colors_.ink);
         }
-        paint_text(placed_->title, colors_.ink);
+        for (const PlacedText& line : placed_->title) {
+            paint_text(line, colors_.ink);
+        }
     }
 
     QPainter& painter_;

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <utility>
 
+#include <QStringList>
+
 #include "shell/binding/qt_text.h"
 
 namespace gullymark::shell {
@@ -102,10 +104,27 @@ class ViewPlacer {
         if (placed_.view->title.empty() || placed_.room.height() < 6 * font_.height()) {
             return;
         }
-        const QString text =
-            font_.elidedText(to_qt(placed_.view->title), Qt::ElideRight, placed_.room.width());
-        placed_.title = {
-            text, QRectF(placed_.room.topLeft(), QSizeF(font_.horizontalAdvance(text), font_.height()))};
+        QString line;
+        const auto end_line = [&] {
+            const QString text = font_.elidedText(line, Qt::ElideRight, placed_.room.width());
+            const double y = placed_.room.top() + title_height();
+            placed_.title.push_back(
+                {text, QRectF(placed_.room.left(), y, font_.horizontalAdvance(text), font_.height())});
+        };
+        for (const QString& piece : to_qt(placed_.view->title).split(QStringLiteral(", "))) {
+            const QString longer = line.isEmpty() ? piece : line + QStringLiteral(", ") + piece;
+            if (!line.isEmpty() && font_.horizontalAdvance(longer) > placed_.room.width()) {
+                end_line();
+                line = piece;
+            } else {
+                line = longer;
+            }
+        }
+        end_line();
+    }
+
+    [[nodiscard]] double title_height() const {
+        return font_.height() * static_cast<double>(placed_.title.size());
     }
 
     void place_drawing(std::size_t above, std::size_t below) {
@@ -113,7 +132,7 @@ class ViewPlacer {
         const double width = view.high.x - view.low.x;
         const double height = (view.high.y - view.low.y) * placed_.exaggeration;
         QRectF room = placed_.room;
-        room.setTop(room.top() + (placed_.title.text.isEmpty() ? 0 : font_.height() + 2 * unit_));
+        room.setTop(room.top() + title_height() + (placed_.title.empty() ? 0 : 2 * unit_));
         room.adjust(left_margin(), static_cast<double>(above) * row_height() + 2 * unit_, -2 * unit_,
                     -static_cast<double>(below) * row_height() - 2 * unit_);
         const QSizeF size(std::max(1.0, room.width()), std::max(1.0, room.height()));
@@ -137,6 +156,7 @@ class ViewPlacer {
     void place_all() {
         placed_.dimensions.clear();
         placed_.marks.clear();
+        placed_.losses = static_cast<int>(detail_);
         find_text_room();
         above_ = place_across(Run::above, placed_.drawing.top(), -row_height());
         below_ = place_marks();
@@ -178,10 +198,14 @@ class ViewPlacer {
             const auto row = rows.take(std::min(left, box.left()), std::max(right, box.right()));
             const double y = start + pitch * (static_cast<double>(row) + 0.5);
             box.moveCenter({box.center().x(), y});
-            placed.line = {left, y, right, y};
+            const bool beside = box.left() >= right || box.right() <= left;
+            const bool within = right - left >= box.width() + arrows * unit_;
+            const double line =
+                beside || within ? y : box.bottom() + unit_;  // a wide text stands on its line
+            placed.line = {left, line, right, line};
             const double over = 3 * unit_ * (pitch < 0 ? -1 : 1);
             const auto extension = [&](const section::Point& point) {
-                return QLineF(placed_.at(point), QPointF(placed_.at(point).x(), y + over));
+                return QLineF(placed_.at(point), QPointF(placed_.at(point).x(), line + over));
             };
             placed.from = extension(dimension->from);
             placed.to = extension(dimension->to);
@@ -191,17 +215,18 @@ class ViewPlacer {
     }
 
     /// The text of a dimension from `left` to `right`: within it, else beside it, in the room.
-    [[nodiscard]] PlacedText label_beside(double left, double right, const std::string& text) const {
+    PlacedText label_beside(double left, double right, const std::string& text) {
         PlacedText label = text_around((left + right) / 2, text);
         const double width = label.box.width();
-        const double arrows = 22 * unit_;
-        if (right - left < width + arrows) {
+        if (right - left < width + arrows * unit_) {
             const double after = right + 12 * unit_;
             const double before = left - 12 * unit_ - width;
             if (after + width <= placed_.room.right()) {
                 label.box.moveLeft(after);
             } else if (before >= texts_from_) {
                 label.box.moveLeft(before);
+            } else {
+                ++placed_.losses;
             }
         }
         return label;
@@ -248,7 +273,7 @@ class ViewPlacer {
     void place_upright_labels(std::vector<std::size_t>& uprights, double right) {
         const auto middle = [this](std::size_t index) { return placed_.dimensions[index].line.center().y(); };
         std::ranges::sort(uprights, {}, middle);
-        double free_from = placed_.room.top() + (placed_.title.text.isEmpty() ? 0 : font_.height());
+        double free_from = placed_.room.top() + title_height();
         for (const std::size_t index : uprights) {
             PlacedText& label = placed_.dimensions[index].label;
             const double width = font_.horizontalAdvance(label.text) + 2 * unit_;
@@ -266,6 +291,7 @@ class ViewPlacer {
     }
 
     static constexpr double line_gap = 9;
+    static constexpr double arrows = 22;  // what both arrows of a line take beside a text
 
     const QFontMetricsF& font_;
     double unit_;
@@ -291,12 +317,15 @@ QPointF PlacedView::at(const section::Point& point) const {
 
 PlacedView place_view(const QRectF& room, const View& view, double exaggeration, const QFontMetricsF& font) {
     constexpr double enough = 0.45;
+    constexpr double enough_for_the_spread = 0.3;
     const double widest =
         room.height() / ((view.high.y - view.low.y) * exaggeration) * (view.high.x - view.low.x);
     PlacedView placed;
     for (int detail = 0; detail <= static_cast<int>(Detail::none); ++detail) {
         placed = ViewPlacer(room, view, exaggeration, font, static_cast<Detail>(detail)).place();
-        if (placed.drawing.width() >= enough * std::min(room.width(), widest)) {
+        const bool heights_shown = detail < static_cast<int>(Detail::no_heights);
+        const double wanted = heights_shown ? enough : enough_for_the_spread;
+        if (placed.drawing.width() >= wanted * std::min(room.width(), widest)) {
             break;
         }
     }

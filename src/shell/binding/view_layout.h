@@ -39,9 +39,11 @@ struct PlacedView {
     QRectF drawing;  // the frame of the view
     double scale = 1;
     double exaggeration = 1;
-    PlacedText title;
+    std::vector<PlacedText> title;  // in lines
     std::vector<PlacedDimension> dimensions;
     std::vector<PlacedMark> marks;
+    int losses =
+        0;  // what found no room: steps of detail left away, and texts that cover their dimension line
 
     [[nodiscard]] QPointF at(const section::Point& point) const;
 };

@@ -190,7 +190,9 @@ TEST(SectionPicture, StandsOutOnLightAndOnDark) {
 std::vector<const PlacedText*> texts_of(const PlacedSection& placed) {
     std::vector<const PlacedText*> texts;
     for (const PlacedView& view : placed.views) {
-        texts.push_back(&view.title);
+        for (const PlacedText& line : view.title) {
+            texts.push_back(&line);
+        }
         for (const auto& dimension : view.dimensions) {
             texts.push_back(&dimension.label);
         }
@@ -241,6 +243,21 @@ TEST_P(SectionTexts, NeverCoverEachOtherAndAreNeverCut) {
 INSTANTIATE_TEST_SUITE_P(Tables, SectionTexts,
                          testing::Values("solves_help.tsv", "solves_ordinary.tsv", "solves_boundary.tsv",
                                          "solves_unreadable.tsv"));
+
+TEST(SectionPicture, TellsFlowAndSlopeOfBothApproachesUncutOnThePages) {
+    const QFontMetricsF font(small_font());
+    const auto table = cases::read_table(GULLYMARK_TEST_DIR "/cases/solves_help.tsv");
+    for (const auto& row : table.rows) {
+        cases::solve_row(table, row);
+        const auto section = section::draw_section(engine::open_inlet, section::Water::solved);
+        for (const QSizeF& size : {QSizeF(660, 210), QSizeF(470, 280), QSizeF(375, 330), QSizeF(640, 320)}) {
+            const auto placed = place_section(QRectF(QPointF(), size), section, font);
+            for (const PlacedText* text : texts_of(placed)) {
+                EXPECT_FALSE(text->text.endsWith(QChar(0x2026))) << text->text.toStdString();
+            }
+        }
+    }
+}
 
 TEST(SectionPicture, IsPaintedAtEverySize) {
     const auto section = section::draw_section(curb_inlet("10.209"), section::Water::solved);
