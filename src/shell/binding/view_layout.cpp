@@ -191,7 +191,7 @@ class ViewPlacer {
                 continue;
             }
             const auto [left, right] =
-                std::minmax(placed_.at(dimension->from).x(), placed_.at(dimension->to).x());
+                std::minmax({placed_.at(dimension->from).x(), placed_.at(dimension->to).x()});
             PlacedDimension placed{.label = label_beside(left, right, dimension->text),
                                    .beyond = dimension->beyond};
             QRectF& box = placed.label.box;
