@@ -44,7 +44,7 @@ END
 plant tests/engine/CMakeLists.txt <<'END'
 add_executable(test_engine depth_test.cpp spread_test.cpp)
 target_link_libraries(test_engine engine)
-set_target_properties(test_engine PROPERTIES UNITY_BUILD ON)
+set_target_properties(test_engine PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 1)
 END
 
 plant src/engine/depth.h <<'END'

@@ -1,7 +1,9 @@
 # Run by tidiness.sh: perl tidiness_units.pl SOURCE_FOLDER BUILD_FOLDER
 # Prints every source that the build compiles, and behind a tab the sum of all that its findings depend on: its call, itself
 # and the project's files that it includes. What the build joins by including sources is written to BUILD_FOLDER/tidy as
-# one text, since some findings are told of no text that is included. BUILD_FOLDER/tidy/compile_commands.json has the calls.
+# one text, since some findings are told of no text that is included; the tests of a folder are one text, however many the
+# build makes of them, since most of their time goes into what all of them include. BUILD_FOLDER/tidy/compile_commands.json
+# has the calls.
 #
 #   perl tidiness_units.pl --findings UNIT     tells the findings in a joined text, read from standard input, of its sources
 use strict;
@@ -41,11 +43,11 @@ sub tell_findings {
     }
 }
 
-# join_sources UNITY_SOURCE TARGET: the folders of what was joined, whose headers are included by their plain name.
+# join_sources TARGET UNITY_SOURCES: the folders of what was joined, whose headers are included by their plain name.
 sub join_sources {
-    my ($unity, $target) = @_;
+    my ($target, @unity_sources) = @_;
     my ($text, %folders) = ('');
-    for my $source (contents($unity) =~ /^#include "(.+)"$/mg) {
+    for my $source (map { contents($_) =~ /^#include "(.+)"$/mg } @unity_sources) {
         $text .= "// The text of $source\n" . contents($source);
         $folders{dirname($source)} = 1;
     }
@@ -67,32 +69,48 @@ sub read_parts {
     return \%parts_of;
 }
 
-sub list_units {
+# What the build compiles: each unit with its call, its objects, and the sources that are joined in it.
+sub read_calls {
     my ($top, $build) = @_;
-    my $parts_of = read_parts($build);
-    my $rules = join('', map { contents("$top/$_") } '.clang-tidy', 'tests/checks/tidiness.sh', 'tests/checks/tidiness_units.pl');
-    my (@entries, %sum_of, $call);
+    my (@units, %joined, $call);
     # CMake gives each key of an entry its line.
     for (split /\n/, contents("$build/compile_commands.json")) {
         $call = $1 if /^ *"command": "(.*)",?$/;
         next unless /^ *"file": "(.*?)"/;
-        my ($source, $unit) = ($1, $1);
+        my $source = $1;
         my ($object) = $call =~ / -o (\S+)/ or die "no object of $source\n";
         if ($source =~ m{^\Q$build\E/(.*)CMakeFiles/(.*)\.dir/Unity/unity_(\d+)_cxx\.cxx$}) {
-            $unit = "$build/tidy/$1$2_$3.cpp";
-            my $headers = join(' ', map { "-iquote $_" } join_sources($source, $unit));
-            $call =~ s{ -c .*}{ $headers -c $unit};
-        } elsif ($source !~ m{^\Q$top\E/(src|tests|tools|bench|fuzz)/}) {
-            next;
+            my $name = "$build/tidy/$1$2" . ($1 =~ /^(tests|fuzz)/ ? '' : "_$3") . '.cpp';
+            push @units, $joined{$name} = {name => $name, call => $call} unless $joined{$name};
+            push @{$joined{$name}{objects}}, $object;
+            push @{$joined{$name}{sources}}, $source;
+        } elsif ($source =~ m{^\Q$top\E/(src|tests|tools|bench|fuzz)/}) {
+            push @units, {name => $source, call => $call, objects => [$object]};
         }
-        push @entries, qq({ "directory": "$build", "command": "$call", "file": "$unit" });
+    }
+    return @units;
+}
+
+sub list_units {
+    my ($top, $build) = @_;
+    my $parts_of = read_parts($build);
+    my $rules = join('', map { contents("$top/$_") } '.clang-tidy', 'tests/checks/tidiness.sh', 'tests/checks/tidiness_units.pl');
+    my (@entries, %sum_of);
+    for my $unit (read_calls($top, $build)) {
+        my ($name, $call, @objects) = ($unit->{name}, $unit->{call}, @{$unit->{objects}});
+        if ($unit->{sources}) {
+            my $headers = join(' ', map { "-iquote $_" } join_sources($name, @{$unit->{sources}}));
+            $call =~ s{ -c .*}{ $headers -c $name};
+        }
+        push @entries, qq({ "directory": "$build", "command": "$call", "file": "$name" });
         # Without a note of its parts a source is always looked at.
         my $sum = 'unknown';
-        if (my $parts = $parts_of->{$object}) {
-            $sum_of{$_} //= sha256_hex(contents(m{^/} ? $_ : "$build/$_")) for @$parts;
-            $sum = sha256_hex(join("\n", $rules, $call, map { "$_ $sum_of{$_}" } sort @$parts));
+        unless (grep { !$parts_of->{$_} } @objects) {
+            my %parts = map { $_ => 1 } map { @{$parts_of->{$_}} } @objects;
+            $sum_of{$_} //= sha256_hex(contents(m{^/} ? $_ : "$build/$_")) for keys %parts;
+            $sum = sha256_hex(join("\n", $rules, $call, map { "$_ $sum_of{$_}" } sort keys %parts));
         }
-        print "$unit\t$sum\n";
+        print "$name\t$sum\n";
     }
     write_file("$build/tidy/compile_commands.json", "[\n" . join(",\n", @entries) . "\n]\n");
 }

@@ -50,7 +50,7 @@ void report(Designer& designer, const Site& site, int /*number*/) {
 void design_form(Designer& designer, const Site& site, int /*number*/) {
     designer.write_design_form(site.report());
 }
-void pick(Designer& designer, const Site& /*site*/, int number) {
+void pick_inlet(Designer& designer, const Site& /*site*/, int number) {
     designer.pick(Designer::rows());
     designer.pick(1 + number);
 }
@@ -113,7 +113,7 @@ std::vector<Deed> deeds_of_all_kinds(const Site& site) {
 std::vector<Deed> deeds_that_store_nothing(const Site& site) {
     const std::string road = site.path("road.gmk");
     return {
-        {"pick in the grid", road, pick},
+        {"pick in the grid", road, pick_inlet},
         {"listing", road, view},
         {"a previous inlet that is named", road, name_one_that_is_named},
         {"copy under a number that is there", road, copy_to_number_there},

@@ -16,7 +16,7 @@ using testing_support::write_file;
 using Scarcity = std::function<void(const Site& site, int degree)>;
 
 constexpr std::uint64_t page = 4096;
-constexpr std::uint64_t disk = 256 * page;
+constexpr std::uint64_t disk_size = 256 * page;
 
 /// Holds for this process until it ends: no file grows beyond a limit, from no byte at all to more than it has.
 Scarcity limit_growth(int degrees) {
@@ -145,7 +145,7 @@ Outcome fill_disk_of_report(const Site& site, int pages) {
 bool mount_small_disk(const Site& site) {
     const std::string folder = site.path("work");
     return unshare(CLONE_NEWNS) == 0 && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-           mount("small", folder.c_str(), "tmpfs", 0, ("size=" + std::to_string(disk)).c_str()) == 0;
+           mount("small", folder.c_str(), "tmpfs", 0, ("size=" + std::to_string(disk_size)).c_str()) == 0;
 }
 
 void unmount_small_disk(const Site& site) {

@@ -12,7 +12,7 @@ namespace {
 
 using namespace testing_support;  // NOLINT(google-build-using-namespace): the user of the whole file
 
-constexpr Qt::KeyboardModifiers plain = Qt::NoModifier;
+constexpr Qt::KeyboardModifiers no_modifier = Qt::NoModifier;
 constexpr Qt::KeyboardModifiers ctrl = Qt::ControlModifier;
 constexpr Qt::KeyboardModifiers shift = Qt::ShiftModifier;
 constexpr Qt::KeyboardModifiers keypad = Qt::KeypadModifier;
@@ -31,20 +31,23 @@ struct EditRow {
 
 /// Letters stand for the digits in fields that take any text: the same rows serve both.
 const std::vector<EditRow> edit_rows{
-    {"Delete", {{Qt::Key_Home, plain}, {Qt::Key_Delete, plain}}, "234"},
+    {"Delete", {{Qt::Key_Home, no_modifier}, {Qt::Key_Delete, no_modifier}}, "234"},
     {"Delete on the keypad", {{Qt::Key_Home, keypad}, {Qt::Key_Delete, keypad}}, "234"},
-    {"Delete of the marked text", {{Qt::Key_A, ctrl}, {Qt::Key_Delete, plain}}, ""},
-    {"Delete at the end", {{Qt::Key_End, plain}, {Qt::Key_Delete, plain}}, "1234"},
-    {"Ctrl+Delete", {{Qt::Key_Home, plain}, {Qt::Key_Delete, ctrl}}, ""},
-    {"BackSpace", {{Qt::Key_Backspace, plain}}, "123"},
+    {"Delete of the marked text", {{Qt::Key_A, ctrl}, {Qt::Key_Delete, no_modifier}}, ""},
+    {"Delete at the end", {{Qt::Key_End, no_modifier}, {Qt::Key_Delete, no_modifier}}, "1234"},
+    {"Ctrl+Delete", {{Qt::Key_Home, no_modifier}, {Qt::Key_Delete, ctrl}}, ""},
+    {"BackSpace", {{Qt::Key_Backspace, no_modifier}}, "123"},
     {"Ctrl+BackSpace", {{Qt::Key_Backspace, ctrl}}, ""},
     {"arrows",
-     {{Qt::Key_Left, plain}, {Qt::Key_Left, plain}, {Qt::Key_Right, plain}, {Qt::Key_Backspace, plain}},
+     {{Qt::Key_Left, no_modifier},
+      {Qt::Key_Left, no_modifier},
+      {Qt::Key_Right, no_modifier},
+      {Qt::Key_Backspace, no_modifier}},
      "124"},
-    {"arrows of the keypad", {{Qt::Key_Left, keypad}, {Qt::Key_Delete, plain}}, "123"},
-    {"Shift and arrows", {{Qt::Key_Left, shift}, {Qt::Key_Left, shift}, {Qt::Key_Delete, plain}}, "12"},
-    {"Shift+Home", {{Qt::Key_Home, shift}, {Qt::Key_5, plain}}, "5"},
-    {"Home and a digit", {{Qt::Key_Home, plain}, {Qt::Key_5, plain}}, "51234"},
+    {"arrows of the keypad", {{Qt::Key_Left, keypad}, {Qt::Key_Delete, no_modifier}}, "123"},
+    {"Shift and arrows", {{Qt::Key_Left, shift}, {Qt::Key_Left, shift}, {Qt::Key_Delete, no_modifier}}, "12"},
+    {"Shift+Home", {{Qt::Key_Home, shift}, {Qt::Key_5, no_modifier}}, "5"},
+    {"Home and a digit", {{Qt::Key_Home, no_modifier}, {Qt::Key_5, no_modifier}}, "51234"},
     {"a digit of the keypad", {{Qt::Key_5, keypad}}, "12345"},
     {"Ctrl+X", {{Qt::Key_A, ctrl}, {Qt::Key_X, ctrl}}, "", "1234"},
     {"Shift+Delete", {{Qt::Key_A, ctrl}, {Qt::Key_Delete, shift}}, "", "1234"},
@@ -52,9 +55,9 @@ const std::vector<EditRow> edit_rows{
     {"Ctrl+Insert", {{Qt::Key_A, ctrl}, {Qt::Key_Insert, ctrl}}, "1234", "1234"},
     {"Ctrl+V", {{Qt::Key_V, ctrl}}, "123467"},
     {"Shift+Insert", {{Qt::Key_Insert, shift}}, "123467"},
-    {"Ctrl+Z", {{Qt::Key_Home, plain}, {Qt::Key_Delete, plain}, {Qt::Key_Z, ctrl}}, "1234"},
+    {"Ctrl+Z", {{Qt::Key_Home, no_modifier}, {Qt::Key_Delete, no_modifier}, {Qt::Key_Z, ctrl}}, "1234"},
     {"Ctrl+Z of a paste", {{Qt::Key_V, ctrl}, {Qt::Key_Z, ctrl}}, "1234"},
-    {"Ctrl+Shift+Z", {{Qt::Key_Backspace, plain}, {Qt::Key_Z, ctrl}, {Qt::Key_Z, ctrl | shift}}, "123"},
+    {"Ctrl+Shift+Z", {{Qt::Key_Backspace, no_modifier}, {Qt::Key_Z, ctrl}, {Qt::Key_Z, ctrl | shift}}, "123"},
 };
 
 /// Strikes the keys of each row in a field that holds "1234".
