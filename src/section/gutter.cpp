@@ -11,6 +11,7 @@
 namespace gullymark::section {
 namespace {
 
+using Run = Dimension::Run;
 using engine::Column;
 using engine::Unit;
 
@@ -104,7 +105,6 @@ std::vector<Point> water_between(const Bed& bed, double from, double to, double 
 }
 
 void add_spread(View& view, const Spread& water, const Bed& bed) {
-    using Run = Dimension::Run;
     const Gutter& gutter = bed.gutter;
     if (water.allowable) {
         const double end = water.allowable->size;
@@ -166,7 +166,6 @@ void add_gutter_widths(View& view, const engine::InletRecord& record, const Bed&
 }
 
 void add_heights(View& view, const engine::InletRecord& record, const Bed& bed, const Spread& water) {
-    using Run = Dimension::Run;
     if (const auto curb = measure_in(record, Column::CURB_HEIGHT); curb && curb->size > 0) {
         view.dimensions.push_back(
             {.run = Run::upright, .from = {0, 0}, .to = {0, curb->size}, .text = "curb " + curb->text});
