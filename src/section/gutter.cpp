@@ -14,6 +14,7 @@ namespace {
 using Run = Dimension::Run;
 using engine::Column;
 using engine::Unit;
+using Run = Dimension::Run;
 
 std::optional<Measure> length_of(std::string_view text) {
     engine::InletRecord one;
