@@ -18,11 +18,12 @@
 namespace gullymark::shell {
 namespace {
 
-constexpr qreal text_points = 8.0;
+constexpr qreal text_points = 7.8;
 constexpr qreal foot_points = 7.5;
 constexpr qreal picture_points = 7.5;
-constexpr qreal picture_inches = 2.1;
+constexpr qreal picture_inches = 2.0;
 constexpr qreal foot_inches = 0.3;
+constexpr qreal heading_gap_inches = 0.05;
 constexpr int pdf_resolution = 600;
 
 QFont page_font(qreal points) {
@@ -99,8 +100,9 @@ void CalculationPages::add(const QString& html, bool keeps_next) {
     text->documentLayout()->setPaintDevice(&device_);
     text->setHtml(html);
     text->setTextWidth(page_size(device_).width());
-    const qreal height = text->size().height();
-    blocks_.push_back({.text = std::move(text), .height = height, .keeps_next = keeps_next});
+    const qreal gap = keeps_next ? heading_gap_inches * device_.logicalDpiY() : 0.0;
+    const qreal height = gap + text->size().height();
+    blocks_.push_back({.text = std::move(text), .gap = gap, .height = height, .keeps_next = keeps_next});
 }
 
 void CalculationPages::add_picture() {
@@ -138,13 +140,14 @@ void CalculationPages::paint_page(QPainter& painter, std::size_t page) const {
     for (std::size_t i = pages_[page]; i < end; ++i) {
         const Block& block = blocks_[i];
         if (block.text) {
+            painter.translate(0.0, block.gap);
             block.text->documentLayout()->draw(&painter, context);
         } else {
             painter.setFont(page_font(picture_points));
             paint_section(painter, QRectF(QPointF(), QSizeF(page_size(device_).width(), block.height)),
                           section_, section_colors_on_paper());
         }
-        painter.translate(0.0, block.height);
+        painter.translate(0.0, block.height - block.gap);
     }
     painter.restore();
 }

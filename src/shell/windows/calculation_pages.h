@@ -39,8 +39,9 @@ class CalculationPages {
   private:
     struct Block {
         std::unique_ptr<QTextDocument> text;  // null for the picture
-        qreal height = 0.0;
-        bool keeps_next = false;  // a heading
+        qreal gap = 0.0;                      // above a heading
+        qreal height = 0.0;                   // with the gap
+        bool keeps_next = false;              // a heading
     };
 
     void add(const QString& html, bool keeps_next = false);
