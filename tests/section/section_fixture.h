@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -90,6 +91,12 @@ inline const Shape* find_shape(const View& view, Part part) {
     return found == view.shapes.end() ? nullptr : &*found;
 }
 
+/// The shape of a part; without one the test ends.
+inline const Shape& shape_of(const View& view, Part part) {
+    const Shape* found = find_shape(view, part);
+    return found != nullptr ? *found : throw std::out_of_range("no such shape");
+}
+
 inline std::ptrdiff_t count_shapes(const View& view, Part part) {
     return std::ranges::count(view.shapes, part, &Shape::part);
 }
@@ -107,6 +114,12 @@ inline const Dimension* find_dimension(const View& view, std::string_view symbol
     const auto found = std::ranges::find_if(
         view.dimensions, [&](const Dimension& one) { return one.text.starts_with(symbol); });
     return found == view.dimensions.end() ? nullptr : &*found;
+}
+
+/// The same; without one the test ends.
+inline const Dimension& dimension_of(const View& view, std::string_view symbol) {
+    const Dimension* found = find_dimension(view, symbol);
+    return found != nullptr ? *found : throw std::out_of_range(std::string(symbol));
 }
 
 inline bool has_note(const Section& section, std::string_view note) {

@@ -70,11 +70,11 @@ TEST_F(SectionOfAnInlet, DrawsCurbGutterAndDepressionAtTheirSizes) {
     const Section section = draw_section(curb_on_grade(), Water::solved);
     const View& view = section.views.front();
     ASSERT_NE(find_dimension(view, "curb 6.0 in"), nullptr);
-    EXPECT_DOUBLE_EQ(find_dimension(view, "curb 6.0 in")->to.y, 0.5);
+    EXPECT_DOUBLE_EQ(dimension_of(view, "curb 6.0 in").to.y, 0.5);
     ASSERT_NE(find_dimension(view, "a 6.00 in"), nullptr);
-    EXPECT_NEAR(find_dimension(view, "a 6.00 in")->from.y, -0.5, 1e-12);
+    EXPECT_NEAR(dimension_of(view, "a 6.00 in").from.y, -0.5, 1e-12);
     ASSERT_NE(find_dimension(view, "W, Wa 2.00 ft"), nullptr);
-    EXPECT_DOUBLE_EQ(find_dimension(view, "W, Wa 2.00 ft")->to.x, 2.0);
+    EXPECT_DOUBLE_EQ(dimension_of(view, "W, Wa 2.00 ft").to.x, 2.0);
     const Shape* ground = find_shape(view, Part::ground);
     ASSERT_NE(ground, nullptr);
     // The line of the depressed gutter falls by the inlet cross slope: 2 x 0.3333 from its edge to the curb.
@@ -108,10 +108,9 @@ TEST_F(SectionOfAnInlet, ShowsBothApproachesOfASumpEachWithItsFlowAndItsSpread) 
         EXPECT_EQ(left.title, "Left approach, Q 2.200 cfs, S 0.0100");
         EXPECT_EQ(right.title, "Right approach, Q 1.800 cfs, S 0.0100");
         ASSERT_NE(find_shape(left, Part::water), nullptr);
-        EXPECT_LE(farthest_right(*find_shape(left, Part::water)), 0)
-            << "the left one has its curb on the right";
+        EXPECT_LE(farthest_right(shape_of(left, Part::water)), 0) << "the left one has its curb on the right";
         ASSERT_NE(find_shape(left, Part::beyond), nullptr);
-        EXPECT_DOUBLE_EQ(farthest_left(*find_shape(left, Part::beyond)), -8.320);
+        EXPECT_DOUBLE_EQ(farthest_left(shape_of(left, Part::beyond)), -8.320);
         ASSERT_NE(find_shape(right, Part::water), nullptr);
         EXPECT_EQ(find_shape(right, Part::beyond), nullptr) << "the smaller flow stays within";
         EXPECT_EQ(find_dimension(right, "spread 8.320 ft"), nullptr);
@@ -127,21 +126,21 @@ TEST_F(SectionOfAnInlet, LeavesTheSmallerApproachWithoutWaterWhenItIsNotSolved) 
 TEST_F(SectionOfAnInlet, OpensTheCurbByTheThroatOfASump) {
     const View upright = draw_section(inlet_in_sump("Curb Inlet"), Water::solved).views.front();
     ASSERT_NE(find_dimension(upright, "h 6.00 in"), nullptr);
-    EXPECT_DOUBLE_EQ(
-        find_dimension(upright, "h 6.00 in")->to.y - find_dimension(upright, "h 6.00 in")->from.y, 0.5);
+    EXPECT_DOUBLE_EQ(dimension_of(upright, "h 6.00 in").to.y - dimension_of(upright, "h 6.00 in").from.y,
+                     0.5);
     const View gap =
         draw_section(inlet_in_sump("Curb Inlet", {{Column::THROATYPE, "Vertical"}}), Water::solved)
             .views.front();
     ASSERT_NE(find_dimension(gap, "h 6.00 in"), nullptr);
-    EXPECT_DOUBLE_EQ(find_dimension(gap, "h 6.00 in")->from.x, -0.5);
+    EXPECT_DOUBLE_EQ(dimension_of(gap, "h 6.00 in").from.x, -0.5);
     const View inclined =
         draw_section(
             inlet_in_sump("Curb Inlet", {{Column::THROATYPE, "Inclined"}, {Column::THROATANGLE, "30.00"}}),
             Water::solved)
             .views.front();
     ASSERT_NE(find_dimension(inclined, "h 6.00 in"), nullptr);
-    EXPECT_NEAR(find_dimension(inclined, "h 6.00 in")->to.y - find_dimension(inclined, "h 6.00 in")->from.y,
-                0.25, 1e-9);
+    EXPECT_NEAR(dimension_of(inclined, "h 6.00 in").to.y - dimension_of(inclined, "h 6.00 in").from.y, 0.25,
+                1e-9);
 }
 
 TEST_F(SectionOfAnInlet, DrawsNothingOfAFieldThatItsKindDoesNotHave) {
@@ -184,7 +183,7 @@ TEST_F(SectionOfAnInlet, CutsADitchInASumpAlongItWithBothApproaches) {
     EXPECT_EQ(view.marks[1].text, "right approach 2.500 cfs, S 0.0100");
     EXPECT_NE(find_dimension(view, "L 3.500 ft"), nullptr);
     ASSERT_NE(find_shape(view, Part::surface), nullptr);
-    EXPECT_DOUBLE_EQ(find_shape(view, Part::surface)->points.front().y, 0.25);
+    EXPECT_DOUBLE_EQ(shape_of(view, Part::surface).points.front().y, 0.25);
 }
 
 TEST_F(SectionOfAnInlet, SaysThatARatedGrateShowsNoInterception) {

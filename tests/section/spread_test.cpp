@@ -24,7 +24,7 @@ TEST_F(SpreadOfTheWater, EndsAtTheSpreadOfTheRecordAndSplitsAtTheAllowableOne) {
     EXPECT_NEAR(surface->points.front().y, 0.3373, 0.0001);
     EXPECT_DOUBLE_EQ(surface->points.front().y, surface->points.back().y);
     ASSERT_NE(find_dimension(view, "2.209 ft beyond"), nullptr);
-    EXPECT_TRUE(find_dimension(view, "2.209 ft beyond")->beyond);
+    EXPECT_TRUE(dimension_of(view, "2.209 ft beyond").beyond);
     EXPECT_NE(find_dimension(view, "spread 10.209 ft"), nullptr);
     EXPECT_NE(find_dimension(view, "allowable 8.0 ft"), nullptr);
 }
@@ -89,12 +89,12 @@ TEST_F(SpreadOfTheWater, InMetersReadsDepthsInMillimeters) {
     const Section section = draw_section(record, Water::solved);
     const View& view = section.views.front();
     ASSERT_NE(find_dimension(view, "curb 150 mm"), nullptr);
-    EXPECT_DOUBLE_EQ(find_dimension(view, "curb 150 mm")->to.y, 0.150);
+    EXPECT_DOUBLE_EQ(dimension_of(view, "curb 150 mm").to.y, 0.150);
     EXPECT_NE(find_dimension(view, "0.0001 m beyond"), nullptr);
     EXPECT_NE(find_dimension(view, "depth 99.9022 mm"), nullptr);
     // By hand: 0.6 x (0.3333 - 0.0833) = 0.150 m.
     ASSERT_NE(find_dimension(view, "a 150.00 mm"), nullptr);
-    EXPECT_NEAR(find_dimension(view, "a 150.00 mm")->from.y, -0.150, 1e-12);
+    EXPECT_NEAR(dimension_of(view, "a 150.00 mm").from.y, -0.150, 1e-12);
 }
 
 }  // namespace
