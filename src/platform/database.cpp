@@ -16,6 +16,21 @@ void execute_one(sqlite3* file, const std::string& statement) {
     prepared.run();
 }
 
+void fail_unless_sound(sqlite3* file) {
+    switch (examine(file)) {
+        case Soundness::sound:
+            return;
+        case Soundness::too_long:
+            throw Failure("the file holds a text that is too long for a project");
+        case Soundness::endless:
+            throw Failure("the file cannot be read: it is damaged, or too large for a project");
+        case Soundness::unknown:
+            throw Failure(sqlite3_errmsg(file));
+        default:
+            throw Failure(sqlite3_errstr(SQLITE_CORRUPT));
+    }
+}
+
 }  // namespace
 
 Connection::Connection() = default;
@@ -41,6 +56,19 @@ void Connection::open(const std::string& path) {
     auto handle = std::make_shared<DatabaseHandle>();
     try {
         open_project(*handle, path);
+    } catch (const Failure& failure) {
+        throw Failure(std::string(failure.what()) + " - " + path);
+    }
+    handle_ = std::move(handle);
+}
+
+void Connection::open_to_read(const std::string& path) {
+    close_handle();
+    auto handle = std::make_shared<DatabaseHandle>();
+    try {
+        read_project(*handle, path);
+        fail_unless_sound(handle->file);
+        Statement(handle->file, "PRAGMA query_only = ON").run();
     } catch (const Failure& failure) {
         throw Failure(std::string(failure.what()) + " - " + path);
     }

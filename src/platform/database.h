@@ -36,6 +36,14 @@ class Connection {
     /// that no save of this program left, which is a failure. An open that fails writes and deletes nothing.
     void open(const std::string& path);
 
+    /// Reads an existing project file whole, as it stands at this moment, and lets go of it: what is read through this
+    /// connection afterwards is of that moment, and every write fails. Nothing is written, made or deleted, not beside the
+    /// file either; it is locked, for reading, only while its pages are copied. A read-only file serves, also in a
+    /// read-only folder, and so do one of an old release, which stays as it is, and one of a save that was cut short:
+    /// undone is that in a copy elsewhere. A failure for all else that `open` refuses, for a file that another program
+    /// keeps locked, and for a damaged one.
+    void open_to_read(const std::string& path);
+
     /// Reads all of the file. Where it is damaged this is a failure, and nothing is stored in it through this
     /// connection any more: a write could destroy what can still be read. A file that is locked right now is not judged;
     /// one of which the reading does not come to an end is closed.

@@ -1,9 +1,13 @@
 #include "platform/database_file.h"
 
+#include <sys/stat.h>
+
 #include <array>
+#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <utility>
+#include <vector>
 
 #include "platform/characters.h"
 #include "platform/database_guard.h"
@@ -66,22 +70,29 @@ void check_schema(sqlite3* file) {
     }
 }
 
-/// Reads the schema, which is the first look into the file, and refuses what is no project file before anything is
-/// written to it.
-void open_and_look(DatabaseHandle& handle, const std::string& path) {
-    // There is one thread: without locks of its own the engine gives the texts of a list a tenth sooner.
-    if (sqlite3_open_v2(path.c_str(), &handle.file,
-                        SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX,
+/// There is one thread: without locks of its own the engine gives the texts of a list a tenth sooner.
+void open_handle(DatabaseHandle& handle, const std::string& path, int access) {
+    if (sqlite3_open_v2(path.c_str(), &handle.file, access | SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX,
                         guarded_files()) != SQLITE_OK) {
         throw Failure(sqlite3_errmsg(handle.file));
     }
     protect(handle.file);
     handle.limit_time();
+}
+
+/// Reads the schema, and refuses what is no project file.
+void look_into(const DatabaseHandle& handle) {
     Statement(handle.file, "PRAGMA cell_size_check = ON").run();
     if (read_integer(handle.file, "PRAGMA application_id") != project_application_id) {
         throw Failure(not_a_project);
     }
     check_schema(handle.file);
+}
+
+/// The first look into the file comes before anything is written to it.
+void open_and_look(DatabaseHandle& handle, const std::string& path) {
+    open_handle(handle, path, SQLITE_OPEN_READWRITE);
+    look_into(handle);
     if (sqlite3_db_readonly(handle.file, "main") != 0) {
         throw Failure(std::string(sqlite3_errstr(SQLITE_READONLY)) + ": the file is read-only");
     }
@@ -109,16 +120,24 @@ class TrialFolder {
         for (const char* ending : {"", "-journal", "-wal"}) {
             std::filesystem::remove(path_ + "/copy" + ending);
         }
-        std::filesystem::copy_file(path, path_ + "/copy");
+        copy_one(path, "");
         for (const char* ending : endings) {
             if (std::filesystem::exists(path + ending)) {
-                std::filesystem::copy_file(path + ending, path_ + "/copy" + ending);
+                copy_one(path, ending);
             }
         }
         return path_ + "/copy";
     }
 
   private:
+    /// The copy can be written to, even where the file cannot.
+    void copy_one(const std::string& path, const std::string& ending) const {
+        using std::filesystem::perms;
+        const std::string copy = path_ + "/copy" + ending;
+        std::filesystem::copy_file(path + ending, copy);
+        std::filesystem::permissions(copy, perms::owner_read | perms::owner_write);
+    }
+
     std::string path_;
 };
 
@@ -146,6 +165,55 @@ void try_on_copy(const std::string& path) {
     }
 }
 
+/// The pages of the file at one moment.
+void read_pages(DatabaseHandle& memory, const std::string& path, int access) {
+    DatabaseHandle file;
+    open_handle(file, path, access);
+    memory.close();
+    open_handle(memory, ":memory:", SQLITE_OPEN_READWRITE | SQLITE_OPEN_MEMORY);
+    sqlite3_backup* pages = sqlite3_backup_init(memory.file, "main", file.file, "main");
+    const int copied = pages == nullptr ? sqlite3_errcode(memory.file) : sqlite3_backup_step(pages, -1);
+    sqlite3_backup_finish(pages);
+    if (copied != SQLITE_DONE) {
+        throw Failure(sqlite3_errstr(copied));
+    }
+}
+
+/// Of the file and what stands beside it: which file it is, how large, and when it was changed.
+std::vector<std::int64_t> read_marks(const std::string& path) {
+    std::vector<std::int64_t> marks;
+    for (const char* ending : {"", "-journal", "-wal"}) {
+        struct stat status {};
+        if (lstat((path + ending).c_str(), &status) != 0) {
+            marks.push_back(-1);
+            continue;
+        }
+        marks.insert(marks.end(), {static_cast<std::int64_t>(status.st_ino), status.st_size,
+                                   status.st_mtim.tv_sec, status.st_mtim.tv_nsec});
+    }
+    return marks;
+}
+
+/// False when another program changed something while it was copied: the pages are then of no one moment.
+bool read_pages_of_copy(DatabaseHandle& memory, const std::string& path) {
+    try {
+        const TrialFolder folder;
+        const auto before = read_marks(path);
+        const std::string copy = folder.copy(path, {"-journal", "-wal"});
+        if (read_marks(path) != before) {
+            return false;
+        }
+        read_pages(memory, copy, SQLITE_OPEN_READWRITE);
+        look_into(memory);
+        if (examine(memory.file) == Soundness::damaged && is_sound_alone(folder.copy(path, {}))) {
+            throw Failure("the journal beside the file belongs to another file: it would damage this one");
+        }
+        return true;
+    } catch (const std::filesystem::filesystem_error& error) {
+        throw Failure("the file cannot be read from a copy: " + error.code().message());
+    }
+}
+
 }  // namespace
 
 void open_project(DatabaseHandle& handle, const std::string& path) {
@@ -160,6 +228,22 @@ void open_project(DatabaseHandle& handle, const std::string& path) {
     open_and_look(handle, look.real_path);
     Statement(handle.file, "PRAGMA journal_mode = DELETE").run();
     Statement(handle.file, "PRAGMA synchronous = EXTRA").run();
+}
+
+void read_project(DatabaseHandle& handle, const std::string& path) {
+    constexpr int most_attempts = 5;
+    for (int attempt = 0; attempt < most_attempts; ++attempt) {
+        const Look look = look_at_project(path, Purpose::reading);
+        if (!look.changes_when_opened) {
+            read_pages(handle, look.real_path, SQLITE_OPEN_READONLY);
+            look_into(handle);
+            return;
+        }
+        if (read_pages_of_copy(handle, look.real_path)) {
+            return;
+        }
+    }
+    throw Failure("another program is changing the file");
 }
 
 Soundness examine(sqlite3* file) {

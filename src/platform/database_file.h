@@ -13,6 +13,12 @@ namespace gullymark::platform {
 /// first.
 void open_project(DatabaseHandle& handle, const std::string& path);
 
+/// Puts the whole file as it stands at one moment into the memory of the handle, and looks into its schema as `open_project`
+/// does. The file is locked, for reading, while its pages are copied and no longer. What the engine would change in the
+/// file it changes in a copy: a save that was cut short is undone there. Nothing is written, made or deleted beside the
+/// file, and a read-only file in a read-only folder serves as well.
+void read_project(DatabaseHandle& handle, const std::string& path);
+
 /// What a reading of the whole file finds.
 enum class Soundness { sound, damaged, too_long, endless, unknown };
 

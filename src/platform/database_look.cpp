@@ -278,7 +278,7 @@ void check_log(const std::string& path, std::string_view header) {
 
 }  // namespace
 
-Look look_at_project(const std::string& path) {
+Look look_at_project(const std::string& path, Purpose purpose) {
     std::error_code error;
     const auto real_path = std::filesystem::canonical(path, error);
     const auto status = std::filesystem::status(real_path, error);
@@ -288,7 +288,9 @@ Look look_at_project(const std::string& path) {
     if (!std::filesystem::is_regular_file(status)) {
         throw engine_words(SQLITE_CANTOPEN, "it is not an ordinary file");
     }
-    check_lengths(real_path);
+    if (purpose == Purpose::saving) {
+        check_lengths(real_path);
+    }
     const File file(real_path);
     const std::string header = file.read(0, header_size);
     check_kind(file, header);
@@ -299,7 +301,9 @@ Look look_at_project(const std::string& path) {
         !file.is_being_written()) {
         throw Failure(not_a_project);
     }
-    check_writable(real_path);
+    if (purpose == Purpose::saving) {
+        check_writable(real_path);
+    }
     return {.real_path = real_path, .changes_when_opened = changes};
 }
 

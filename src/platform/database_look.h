@@ -13,12 +13,15 @@ struct Look {
     bool changes_when_opened = false;
 };
 
-/// A failure for what is no project file or cannot be saved in: missing, no ordinary file, of the old database engine, of
+/// What a project file is opened for.
+enum class Purpose : unsigned char { saving, reading };
+
+/// A failure for what is no project file or, to save in it, cannot be saved in: missing, no ordinary file, of the old database engine, of
 /// another program, too large, read-only, of a name or path that leaves no room for the journal's; and for one beside which
 /// something stands that no save of this program leaves: a journal that names another file, which the engine would
 /// delete, one of another file, and a link, pipe or folder in a journal's place. Nothing is written, and no pipe waited for.
 ///
 /// It opens and closes the file, which ends the locks that this process has on it: none, for no statement outlives a call.
-Look look_at_project(const std::string& path);
+Look look_at_project(const std::string& path, Purpose purpose = Purpose::saving);
 
 }  // namespace gullymark::platform

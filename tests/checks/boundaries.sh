@@ -15,14 +15,15 @@ forbid() {
 }
 
 qt='Q[A-Za-z]|Qt[A-Z]|ui_'
-forbid platform  "engine/|section/|calculation/|catalogue/|store/|editor/|reports/|shell/|$qt"
-forbid engine    "section/|calculation/|catalogue/|store/|editor/|reports/|shell/|sqlite|com/sun/star|$qt"
-forbid section   "calculation/|catalogue/|store/|editor/|reports/|shell/|sqlite|com/sun/star|$qt"
-forbid calculation "section/|catalogue/|store/|editor/|reports/|shell/|sqlite|com/sun/star|$qt"
-forbid catalogue "section/|calculation/|store/|editor/|reports/|shell/|sqlite|com/sun/star|$qt"
-forbid store     "engine/|section/|calculation/|catalogue/|editor/|reports/|shell/|sqlite|com/sun/star|$qt"
-forbid editor    "section/|calculation/|reports/|shell/|sqlite|com/sun/star|$qt"
-forbid reports   "section/|calculation/|editor/|shell/|sqlite|com/sun/star|$qt"
+forbid platform  "engine/|section/|calculation/|catalogue/|store/|editor/|reports/|review/|shell/|$qt"
+forbid engine    "section/|calculation/|catalogue/|store/|editor/|reports/|review/|shell/|sqlite|com/sun/star|$qt"
+forbid section   "calculation/|catalogue/|store/|editor/|reports/|review/|shell/|sqlite|com/sun/star|$qt"
+forbid calculation "section/|catalogue/|store/|editor/|reports/|review/|shell/|sqlite|com/sun/star|$qt"
+forbid catalogue "section/|calculation/|store/|editor/|reports/|review/|shell/|sqlite|com/sun/star|$qt"
+forbid store     "engine/|section/|calculation/|catalogue/|editor/|reports/|review/|shell/|sqlite|com/sun/star|$qt"
+forbid editor    "section/|calculation/|reports/|review/|shell/|sqlite|com/sun/star|$qt"
+forbid reports   "section/|calculation/|editor/|review/|shell/|sqlite|com/sun/star|$qt"
+forbid review    "store/|editor/|reports/|shell/|sqlite|com/sun/star|$qt"
 forbid shell     "sqlite|com/sun/star"
 
 # The rooms of the shell: the windows stand on what serves every one of them, and know nothing of the start.
