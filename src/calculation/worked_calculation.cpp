@@ -6,8 +6,9 @@
 
 #include "calculation/rows.h"
 #include "calculation/solve_copy.h"
+#include "calculation/stored_results.h"
 #include "calculation/typeset.h"
-#include "engine/results.h"
+#include "calculation/units_in_force.h"
 #include "engine/solve.h"
 #include "engine/unit_constants.h"
 #include "engine/units.h"
@@ -79,41 +80,8 @@ std::vector<TitleField> title_block(const Request& request, const std::string& d
     return block;
 }
 
-std::vector<Column> differing_results(const engine::InletRecord& stored, const engine::InletRecord& fresh) {
-    std::vector<Column> columns;
-    for (const Column column : engine::all_result_columns()) {
-        if (stored.text(column) != fresh.text(column)) {
-            columns.push_back(column);
-        }
-    }
-    return columns;
-}
-
-/// A solve from which the stored results follow, else one as the program would do it now. A metric inlet keeps the decimals
-/// of its day: they are three after a look at the listing.
-SolvedCopy solve_like_stored(const Request& request) {
-    const std::string now = engine::unit_constants.numberFormat;
-    SolvedCopy solved = solve_copy(request.inlet, request.units, now);
-    for (const char* other : {"0.000", "0.0000"}) {
-        if (now == other || differing_results(request.inlet, solved.inlet).empty()) {
-            continue;
-        }
-        SolvedCopy again = solve_copy(request.inlet, request.units, other);
-        if (differing_results(request.inlet, again.inlet).empty()) {
-            return again;
-        }
-    }
-    return solved;
-}
-
 std::string quoted(const std::string& text) {
     return text.empty() ? "blank" : shortened(text);
-}
-
-bool has_results(const engine::InletRecord& inlet) {
-    const auto columns = engine::all_result_columns();
-    return std::any_of(columns.begin(), columns.end(),
-                       [&](Column column) { return !inlet.text(column).empty(); });
 }
 
 std::vector<std::string> warnings_of(const Request& request, const SolvedCopy& solved) {
@@ -167,24 +135,11 @@ void add_section(Document& document, const char* heading, std::vector<Row> rows)
     }
 }
 
-/// The units tell the captions of what is written, also where another project is open.
-class UnitsInForce {
-  public:
-    explicit UnitsInForce(const std::string& units) { engine::UnitSystem = units; }
-    ~UnitsInForce() { engine::UnitSystem = before_; }
-    UnitsInForce(const UnitsInForce&) = delete;
-    UnitsInForce& operator=(const UnitsInForce&) = delete;
-    UnitsInForce(UnitsInForce&&) = delete;
-    UnitsInForce& operator=(UnitsInForce&&) = delete;
-
-  private:
-    std::string before_ = engine::UnitSystem;
-};
-
 }  // namespace
 
 Document work_out(const Request& request) {
-    const SolvedCopy solved = solve_like_stored(request);
+    const SolvedCopy solved =
+        solve_like_stored(request.inlet, request.units, engine::unit_constants.numberFormat);
     const UnitsInForce units(request.units);
     const std::string sheet(
         engine::sheet_of(request.inlet.text(Column::INLET_LOCATION), request.inlet.text(Column::INLET_TYPE)));

@@ -8,6 +8,7 @@
 #include "editor/form/form_access.h"
 #include "editor/form/pages.h"
 #include "editor/form/sides.h"
+#include "engine/inlet_flow.h"
 #include "platform/failure.h"
 #include "platform/number_text.h"
 #include "platform/outside.h"
@@ -163,7 +164,7 @@ void set_discharge_carryover(int side) {
             throw platform::Failure(store::not_in_project(text(preinlet)));
         }
         const std::string bypass = rows.value("QCARRY").value_or("");
-        set_text(carryover, bypass.empty() ? "0.0" : bypass);
+        set_text(carryover, engine::carryover_from(bypass));
         rows.move_first();
     } catch (const platform::Failure& failure) {
         tell(failure.what());

@@ -5,6 +5,7 @@
 #include "editor/form/field_numbers.h"
 #include "editor/form/sides.h"
 #include "editor/state/workspace.h"
+#include "engine/inlet_flow.h"
 #include "engine/unit_constants.h"
 #include "platform/number_text.h"
 
@@ -19,7 +20,8 @@ void compute_discharge(const Side& side) {
         return;
     }
     set_formatted(side.discharge, screen_field(side.discharge).format, [&] {
-        return number_in(side.intensity) * number_in(side.area) * number_in(side.coefficient);
+        return engine::rational_discharge(number_in(side.intensity), number_in(side.area),
+                                          number_in(side.coefficient));
     });
     ComputeTotalDischarge();
 }
@@ -69,17 +71,15 @@ void ComputeTotalDischarge() {
     for (const FieldId id : {carryover1, carryover2}) {
         fill_empty(id, "0.0");
     }
-    const Real from_left = number_or_zero(discharge1);
-    const Real overland = number_or_zero(overland_flow);
-    const Real bypass_left = number_or_zero(carryover1);
-    Real from_right = 0.0;
-    Real bypass_right = 0.0;
+    engine::FlowShares shares{.from_left = number_or_zero(discharge1),
+                              .bypass_left = number_or_zero(carryover1),
+                              .overland = number_or_zero(overland_flow)};
     if (in_sump()) {
-        from_right = number_or_zero(discharge2);
-        bypass_right = number_or_zero(carryover2);
+        shares.from_right = number_or_zero(discharge2);
+        shares.bypass_right = number_or_zero(carryover2);
     }
     attempt([&] {
-        const Real total = from_left + from_right + bypass_left + bypass_right + overland;
+        const Real total = engine::total_flow(shares);
         set_text(QTotal, platform::format_number(total.number(), engine::unit_constants.numberFormat));
     });
 }

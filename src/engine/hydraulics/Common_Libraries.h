@@ -28,6 +28,9 @@ struct GutterFlow {
     std::string_view discharge = "Q";  // the symbol that Q has in the sheet
 };
 
+/// The ceiling of the search for a spread, in allowable spreads.
+inline constexpr double ceiling_in_limits = 6.0;
+
 /// Share of the flow outside the width W of a composite section with the spread T, the complement of Eo:
 ///
 ///   1 - Eo = 1 - 1 / (1 + r / ((1 + r / (T / W - 1))^2.67 - 1))

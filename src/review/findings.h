@@ -1,0 +1,14 @@
+#pragma once
+
+#include <vector>
+
+#include "review/finding.h"
+#include "review/project.h"
+
+/// What a reviewer finds in a project. Everything is solved anew on copies: nothing that is open changes, and no box is shown.
+namespace gullymark::review {
+
+/// All findings, worst first, then in the order of the file; those of the project stand behind those of its inlets.
+std::vector<Finding> judge(const Project& project, const Limits& limits);
+
+}  // namespace gullymark::review
