@@ -1,6 +1,7 @@
 #include "review/chain_rules.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "calculation/typeset.h"
 #include "engine/inlet_flow.h"
@@ -125,13 +126,12 @@ class LoopSearch {
     }
 
     void tell_loop(Index back_at) {
+        const auto first = std::find_if(way_.begin(), way_.end(),
+                                        [back_at](const Step& step) { return step.index == back_at; });
         std::vector<Index> loop;
-        for (auto step = way_.rbegin(); step != way_.rend(); ++step) {
-            loop.push_back(step->index);
-            if (step->index == back_at) {
-                break;
-            }
-        }
+        std::transform(first, way_.end(), std::back_inserter(loop),
+                       [](const Step& step) { return step.index; });
+        std::reverse(loop.begin(), loop.end());  // the way leads up, the water down
         std::rotate(loop.begin(), std::min_element(loop.begin(), loop.end()), loop.end());
         survey_.tell(rules::previous_in_loop, loop.front(),
                      loop.size() == 1 ? "The inlet is its own previous inlet."

@@ -170,7 +170,8 @@ void tell_spread(const NamedGutter& g, const Named& conveyance, const Named& r, 
 template <typename Gutter>
 Real search_composite_spread(const Gutter& g) {
     using Number = NumberOf<Gutter>;
-    const Number ceiling = let({"ceiling", Unit::length, "of the search"}, ceiling_in_limits * g.spread_limit);
+    const Number ceiling =
+        let({"ceiling", Unit::length, "of the search"}, ceiling_in_limits * g.spread_limit);
     const Number conveyance =
         let({"k", Unit::other, "conveyance of the pavement beside the gutter"}, conveyance_of(g));
     const Number r = let({"r", Unit::ratio, "gutter slope over pavement slope"}, g.Sw / g.Sx);
