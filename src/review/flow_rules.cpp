@@ -11,7 +11,6 @@
 namespace gullymark::review {
 
 using engine::Column;
-using engine::Real;
 
 namespace {
 

@@ -34,7 +34,7 @@ constexpr std::array on_a_grade{left_of("")};
 
 const std::vector<Survey::Index> nowhere;
 
-std::string with_unit(std::string text, engine::Unit unit) {
+std::string with_unit(const std::string& text, engine::Unit unit) {
     const auto name = engine::unit_text(unit);
     return name.empty() ? text : text + ' ' + std::string(name);
 }
