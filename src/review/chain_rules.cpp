@@ -36,25 +36,25 @@ void judge_carryover(Survey& survey, Index index, const Side& side) {
     const char* const advice = "Open the inlet, go through its previous inlet, solve and save.";
     if (previous.empty()) {
         if (!is_same_number(carryover, "0")) {
-            survey.tell(rules::carryover_differs, index, stored + ", but no previous inlet is named.",
-                        advice);
+            survey.report(rules::carryover_differs, index, stored + ", but no previous inlet is named.",
+                          advice);
         }
         return;
     }
     const auto& found = survey.with_number(previous);
     if (found.empty()) {
-        survey.tell(rules::previous_missing, index,
-                    "Previous inlet" + std::string(side.behind) + " is " + told(record, side.preinlet) +
-                        ", which is not in the project.",
-                    "Open the inlet and pick its previous inlet from the list.");
+        survey.report(rules::previous_missing, index,
+                      "Previous inlet" + std::string(side.behind) + " is " + told(record, side.preinlet) +
+                          ", which is not in the project.",
+                      "Open the inlet and pick its previous inlet from the list.");
         return;
     }
     const auto& source = survey.inlet(found.front());
     if (!is_same_number(carryover, engine::carryover_from(source.text(Column::QCARRY)))) {
-        survey.tell(rules::carryover_differs, index,
-                    stored + ", but the bypass of inlet " + told(source, Column::INLET_NUMBER) + " is " +
-                        told(source, Column::QCARRY) + ".",
-                    advice);
+        survey.report(rules::carryover_differs, index,
+                      stored + ", but the bypass of inlet " + told(source, Column::INLET_NUMBER) + " is " +
+                          told(source, Column::QCARRY) + ".",
+                      advice);
     }
 }
 
@@ -62,16 +62,16 @@ void judge_bypass(Survey& survey, Index index) {
     const auto& record = survey.inlet(index);
     const auto& takers = survey.takers_of(record.text(Column::INLET_NUMBER));
     if (takers.size() > 1 && survey.with_number(record.text(Column::INLET_NUMBER)).front() == index) {
-        survey.tell(rules::previous_named_twice, index,
-                    "The inlet is the previous inlet of " + listed(survey, takers) + ": its bypass of " +
-                        told(record, Column::QCARRY) + " counts more than once.",
-                    "Keep it as previous inlet of one side.");
+        survey.report(rules::previous_named_twice, index,
+                      "The inlet is the previous inlet of " + listed(survey, takers) + ": its bypass of " +
+                          told(record, Column::QCARRY) + " counts more than once.",
+                      "Keep it as previous inlet of one side.");
     }
     const auto bypass = number_of(record.text(Column::QCARRY));
     if (takers.empty() && bypass && *bypass > number_of(survey.limits().bypass).value_or(0.0)) {
-        survey.tell(rules::bypass_untaken, index,
-                    "Bypass of " + told(record, Column::QCARRY) + " is taken by no inlet.",
-                    "Name the inlet as previous inlet of the next one, or make sure where the water goes.");
+        survey.report(rules::bypass_untaken, index,
+                      "Bypass of " + told(record, Column::QCARRY) + " is taken by no inlet.",
+                      "Name the inlet as previous inlet of the next one, or make sure where the water goes.");
     }
 }
 
@@ -133,10 +133,10 @@ class LoopSearch {
                        [](const Step& step) { return step.index; });
         std::reverse(loop.begin(), loop.end());  // the way leads up, the water down
         std::rotate(loop.begin(), std::min_element(loop.begin(), loop.end()), loop.end());
-        survey_.tell(rules::previous_in_loop, loop.front(),
-                     loop.size() == 1 ? "The inlet is its own previous inlet."
-                                      : "Inlets " + listed(survey_, loop) + " feed each other in a loop.",
-                     "Take the previous inlet away where the road is highest.");
+        survey_.report(rules::previous_in_loop, loop.front(),
+                       loop.size() == 1 ? "The inlet is its own previous inlet."
+                                        : "Inlets " + listed(survey_, loop) + " feed each other in a loop.",
+                       "Take the previous inlet away where the road is highest.");
     }
 
     Survey& survey_;

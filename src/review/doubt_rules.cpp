@@ -1,6 +1,9 @@
 #include "review/doubt_rules.h"
 
+#include <cmath>
+
 #include "calculation/stored_results.h"
+#include "engine/unit_constants.h"
 #include "engine/units.h"
 #include "platform/number_text.h"
 #include "section/measures.h"
@@ -22,15 +25,15 @@ calculation::SolvedCopy solve_with(const Survey& survey, Survey::Index index, Co
 void judge_shares(Survey& survey, Survey::Index index) {
     const auto& record = survey.inlet(index);
     if (number_or_zero(record, Column::QCARRY) < 0) {
-        survey.tell(rules::bypass_negative, index, "Bypass is " + told(record, Column::QCARRY) + ".",
-                    "Do not hand it on: it takes flow from the next inlet.");
+        survey.report(rules::bypass_negative, index, "Bypass is " + told(record, Column::QCARRY) + ".",
+                      "Do not hand it on: it takes flow from the next inlet.");
     }
     const auto total = number_of(record.text(Column::TOTAL_DISCHARGE));
     if (total && number_or_zero(record, Column::QINT) > *total) {
-        survey.tell(rules::intercepts_more, index,
-                    "The inlet intercepts " + told(record, Column::QINT) + " of " +
-                        told(record, Column::TOTAL_DISCHARGE) + " that come to it.",
-                    "Follow the worked calculation of the inlet.");
+        survey.report(rules::intercepts_more, index,
+                      "The inlet intercepts " + told(record, Column::QINT) + " of " +
+                          told(record, Column::TOTAL_DISCHARGE) + " that come to it.",
+                      "Follow the worked calculation of the inlet.");
     }
 }
 
@@ -38,8 +41,9 @@ void judge_clogging(Survey& survey, Survey::Index index, const calculation::Solv
     const auto& record = survey.inlet(index);
     if (number_or_zero(record, Column::GRATEPERCLOG) == 0) {
         if (section::in_sump(record)) {
-            survey.tell(rules::sump_unclogged, index, "Nothing of the inlet is clogged, and it is in a sump.",
-                        "Solve it with a share clogged.");
+            survey.report(rules::sump_unclogged, index,
+                          "Nothing of the inlet is clogged, and it is in a sump.",
+                          "Solve it with a share clogged.");
         }
         return;
     }
@@ -49,10 +53,10 @@ void judge_clogging(Survey& survey, Survey::Index index, const calculation::Solv
     const auto clean = solve_with(survey, index, Column::GRATEPERCLOG, "0", solved.number_format);
     if (calculation::has_results(clean.inlet) &&
         calculation::differing_results(solved.inlet, clean.inlet).empty()) {
-        survey.tell(rules::clogging_idle, index,
-                    "With " + told(record, Column::GRATEPERCLOG) +
-                        " clogged the results are the same as with nothing clogged.",
-                    "Take the clogging into account by hand.");
+        survey.report(rules::clogging_idle, index,
+                      "With " + told(record, Column::GRATEPERCLOG) +
+                          " clogged the results are the same as with nothing clogged.",
+                      "Take the clogging into account by hand.");
     }
 }
 
@@ -61,9 +65,9 @@ void judge_offset(Survey& survey, Survey::Index index) {
     const double offset = number_or_zero(record, Column::OFFSET);
     const auto& side = record.text(Column::OFFSET_LOCATION);
     if ((side == "LEFT" && offset > 0) || (side == "RIGHT" && offset < 0)) {
-        survey.tell(rules::offset_side, index,
-                    "Offset is " + told(record, Column::OFFSET) + " on the side " + side + ".",
-                    "An offset to the left is negative: check which of the two is meant.");
+        survey.report(rules::offset_side, index,
+                      "Offset is " + told(record, Column::OFFSET) + " on the side " + side + ".",
+                      "An offset to the left is negative: check which of the two is meant.");
     }
 }
 
@@ -78,42 +82,91 @@ void judge_top(Survey& survey, Survey::Index index) {
         const auto& above = survey.inlet(previous.front());
         const auto height = number_of(above.text(Column::TOP_ELEVATION));
         if (height && *top >= *height) {
-            survey.tell(rules::top_not_falling, index,
-                        "Top elevation is " + told(record, Column::TOP_ELEVATION) +
-                            ", that of the previous inlet " + told(above, Column::INLET_NUMBER) + " is " +
-                            told(above, Column::TOP_ELEVATION) + ".",
-                        "Check the elevations, or which inlet comes first.");
+            survey.report(rules::top_not_falling, index,
+                          "Top elevation is " + told(record, Column::TOP_ELEVATION) +
+                              ", that of the previous inlet " + told(above, Column::INLET_NUMBER) + " is " +
+                              told(above, Column::TOP_ELEVATION) + ".",
+                          "Check the elevations, or which inlet comes first.");
         }
     }
+}
+
+double opening_spread(const calculation::SolvedCopy& copy) {
+    return number_or_zero(copy.inlet, Column::OPENSPREAD);
 }
 
 /// A slot in a sump goes from weir to orifice in steps, and may stand shallower beyond one.
 void judge_slot(Survey& survey, Survey::Index index, const calculation::SolvedCopy& solved) {
     const auto& record = survey.inlet(index);
-    if (!solved.solved || section::inlet_of(record) != section::Inlet::slotted || !section::in_sump(record)) {
-        return;
-    }
     constexpr double a_little = 0.05;
     const double flow = number_or_zero(record, Column::TOTAL_DISCHARGE);
     const auto more = solve_with(survey, index, Column::TOTAL_DISCHARGE,
                                  platform::number_text(flow * (1 + a_little)), solved.number_format);
     const auto less = solve_with(survey, index, Column::TOTAL_DISCHARGE,
                                  platform::number_text(flow * (1 - a_little)), solved.number_format);
-    const auto spread = [](const calculation::SolvedCopy& copy) {
-        return number_or_zero(copy.inlet, Column::OPENSPREAD);
-    };
-    const bool falls_after = spread(more) < spread(solved);
-    if (!falls_after && spread(solved) >= spread(less)) {
+    const bool falls_after = opening_spread(more) < opening_spread(solved);
+    if (!falls_after && opening_spread(solved) >= opening_spread(less)) {
         return;
     }
     const auto& low = falls_after ? solved : less;
     const auto& high = falls_after ? more : solved;
-    survey.tell(rules::slot_falls, index,
-                "Spread at the opening falls from " + told(low.inlet, Column::OPENSPREAD) + " to " +
-                    told(high.inlet, Column::OPENSPREAD) + " when the flow grows from " +
-                    told_flow(number_or_zero(low.inlet, Column::TOTAL_DISCHARGE)) + " to " +
-                    told_flow(number_or_zero(high.inlet, Column::TOTAL_DISCHARGE)) + ".",
-                "Rely on the greater spread.");
+    survey.report(rules::slot_falls, index,
+                  "Spread at the opening falls from " + told(low.inlet, Column::OPENSPREAD) + " to " +
+                      told(high.inlet, Column::OPENSPREAD) + " when the flow grows from " +
+                      told_flow(number_or_zero(low.inlet, Column::TOTAL_DISCHARGE)) + " to " +
+                      told_flow(number_or_zero(high.inlet, Column::TOTAL_DISCHARGE)) + ".",
+                  "Rely on the greater spread.");
+}
+
+/// The same slot with a little more of it clogged.
+void judge_clogged_slot(Survey& survey, Survey::Index index, const calculation::SolvedCopy& solved) {
+    constexpr double a_little = 5;  // percent
+    const double clogged = number_or_zero(survey.inlet(index), Column::GRATEPERCLOG) + a_little;
+    if (clogged >= 100) {
+        return;
+    }
+    const auto more =
+        solve_with(survey, index, Column::GRATEPERCLOG, platform::number_text(clogged), solved.number_format);
+    if (opening_spread(more) < opening_spread(solved)) {
+        survey.report(rules::slot_falls_clogged, index,
+                      "Spread at the opening falls from " + told(solved.inlet, Column::OPENSPREAD) + " to " +
+                          told(more.inlet, Column::OPENSPREAD) + " when " +
+                          told(more.inlet, Column::GRATEPERCLOG) + " are clogged.",
+                      "Rely on the greater spread.");
+    }
+}
+
+bool is_slot_in_sump(const engine::InletRecord& record) {
+    return section::inlet_of(record) == section::Inlet::slotted && section::in_sump(record);
+}
+
+/// A depth in a sump is a spread times the slope of the pavement, as if the gutter fell no steeper.
+void judge_gutter_drop(Survey& survey, Survey::Index index) {
+    const auto& record = survey.inlet(index);
+    const auto kind = section::inlet_of(record);
+    if (!section::in_sump(record) || is_slot_in_sump(record) || kind == section::Inlet::ditch) {
+        return;
+    }
+    engine::set_depthFactor();
+    const auto factor = static_cast<double>(engine::unit_constants.depthFactor);
+    const auto gutter = section::gutter_in(record);
+    const double depth = number_or_zero(record, Column::CURBDEPTH);
+    const double omitted = gutter.W * (gutter.Sw - gutter.Sx) * factor;
+    for (const Column column : {Column::OPENSPREAD, Column::GUTTERSPREAD}) {
+        const double spread = number_or_zero(record, column);
+        const double rounding = 0.001 * (gutter.Sx * factor + 1);
+        if (spread > gutter.W && omitted > rounding &&
+            std::fabs(depth - spread * gutter.Sx * factor) <= rounding) {
+            survey.report(rules::gutter_drop_omitted, index,
+                          "Depth at the curb is " + told(record, Column::CURBDEPTH) +
+                              ", the spread times the slope of the pavement: it leaves out " +
+                              platform::format_number(omitted, "0.000") + ' ' +
+                              std::string(engine::unit_text(engine::Unit::depth)) +
+                              " that the gutter falls steeper.",
+                          "Add what the gutter falls.");
+            return;
+        }
+    }
 }
 
 void judge_standing_water(Survey& survey, Survey::Index index) {
@@ -121,10 +174,10 @@ void judge_standing_water(Survey& survey, Survey::Index index) {
     const auto spread = number_of(record.text(Column::OPENSPREAD));
     if (section::inlet_of(record) == section::Inlet::combination && section::in_sump(record) && spread &&
         *spread == 0 && number_or_zero(record, Column::DEPTHATINLET) > 0) {
-        survey.tell(rules::water_without_spread, index,
-                    "Water stands " + told(record, Column::DEPTHATINLET) +
-                        " deep at the inlet, and its spread is " + told(record, Column::OPENSPREAD) + ".",
-                    "Do not rely on the spread; take that of the gutter.");
+        survey.report(rules::water_without_spread, index,
+                      "Water stands " + told(record, Column::DEPTHATINLET) +
+                          " deep at the inlet, and its spread is " + told(record, Column::OPENSPREAD) + ".",
+                      "Do not rely on the spread; take that of the gutter.");
     }
 }
 
@@ -135,8 +188,12 @@ void judge_doubts(Survey& survey, Survey::Index index, const calculation::Solved
     judge_clogging(survey, index, solved);
     judge_offset(survey, index);
     judge_top(survey, index);
-    judge_slot(survey, index, solved);
+    if (solved.solved && is_slot_in_sump(survey.inlet(index))) {
+        judge_slot(survey, index, solved);
+        judge_clogged_slot(survey, index, solved);
+    }
     judge_standing_water(survey, index);
+    judge_gutter_drop(survey, index);
 }
 
 }  // namespace gullymark::review

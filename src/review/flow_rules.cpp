@@ -44,12 +44,13 @@ void judge_discharge(Survey& survey, Survey::Index index, const Side& side) {
     if (runoff) {
         fresh.load(side.discharge, platform::format_number(*runoff, engine::discharge_format));
     }
-    survey.tell(rules::discharge_differs, index,
-                "Discharge" + std::string(side.behind) + " is stored as " + told(record, side.discharge) +
-                    " and is not typed, but " + told(record, side.intensity) + " x " +
-                    told(record, side.area) + " x " + told(record, side.coefficient) +
-                    (runoff ? " gives " + told(fresh, side.discharge) : std::string(" gives nothing")) + ".",
-                "Open the inlet, go through its runoff or check the override, solve and save.");
+    survey.report(rules::discharge_differs, index,
+                  "Discharge" + std::string(side.behind) + " is stored as " + told(record, side.discharge) +
+                      " and is not typed, but " + told(record, side.intensity) + " x " +
+                      told(record, side.area) + " x " + told(record, side.coefficient) +
+                      (runoff ? " gives " + told(fresh, side.discharge) : std::string(" gives nothing")) +
+                      ".",
+                  "Open the inlet, go through its runoff or check the override, solve and save.");
 }
 
 engine::FlowShares shares_of(const engine::InletRecord& record) {
@@ -68,17 +69,17 @@ void judge_total(Survey& survey, Survey::Index index) {
     try {
         const double total = engine::total_flow(shares_of(record)).number();
         if (!is_stored_as(record.text(Column::TOTAL_DISCHARGE), total, stored_formats())) {
-            survey.tell(rules::total_differs, index,
-                        "Total discharge is stored as " + told(record, Column::TOTAL_DISCHARGE) +
-                            ", but discharge, carryover and overland flow add up to " + told_flow(total) +
-                            ".",
-                        "Open the inlet, leave one of its flow fields, solve and save.");
+            survey.report(rules::total_differs, index,
+                          "Total discharge is stored as " + told(record, Column::TOTAL_DISCHARGE) +
+                              ", but discharge, carryover and overland flow add up to " + told_flow(total) +
+                              ".",
+                          "Open the inlet, leave one of its flow fields, solve and save.");
         }
     } catch (engine::Fault) {
-        survey.tell(rules::total_differs, index,
-                    "Total discharge is stored as " + told(record, Column::TOTAL_DISCHARGE) +
-                        ", but discharge, carryover and overland flow are too great to add up.",
-                    "Open the inlet and type its flow anew.");
+        survey.report(rules::total_differs, index,
+                      "Total discharge is stored as " + told(record, Column::TOTAL_DISCHARGE) +
+                          ", but discharge, carryover and overland flow are too great to add up.",
+                      "Open the inlet and type its flow anew.");
     }
 }
 
@@ -88,10 +89,10 @@ void judge_vanished_flow(Survey& survey, Survey::Index index) {
         !engine::sheet_of(record.text(Column::INLET_LOCATION), record.text(Column::INLET_TYPE)).empty();
     if (is_known && number_or_zero(record, Column::TOTAL_DISCHARGE) > 0 &&
         number_or_zero(record, Column::QINT) == 0 && record.text(Column::QCARRY).empty()) {
-        survey.tell(rules::flow_vanishes, index,
-                    told(record, Column::TOTAL_DISCHARGE) +
-                        " come to the inlet, but it stores no intercepted flow and no bypass.",
-                    "Solve and save the inlet; where Solve gives neither, work out by hand what it takes.");
+        survey.report(rules::flow_vanishes, index,
+                      told(record, Column::TOTAL_DISCHARGE) +
+                          " come to the inlet, but it stores no intercepted flow and no bypass.",
+                      "Solve and save the inlet; where Solve gives neither, work out by hand what it takes.");
     }
 }
 
@@ -143,11 +144,11 @@ void judge_balance(Survey& survey) {
     if (std::fabs(unexplained) <= balance.rounding + sums_of_doubles * std::fabs(balance.in)) {
         return;
     }
-    survey.tell(rules::balance_open, Survey::whole_project,
-                "Runoff in is " + told_flow(balance.in) + ", intercepted are " +
-                    told_flow(balance.intercepted) + ", bypass out is " + told_flow(balance.out) + ": " +
-                    told_flow(unexplained) + " are unexplained.",
-                "Bring the inlets up to date from the highest down; the findings on them tell which.");
+    survey.report(rules::balance_open, Survey::whole_project,
+                  "Runoff in is " + told_flow(balance.in) + ", intercepted are " +
+                      told_flow(balance.intercepted) + ", bypass out is " + told_flow(balance.out) + ": " +
+                      told_flow(unexplained) + " are unexplained.",
+                  "Bring the inlets up to date from the highest down; the findings on them tell which.");
 }
 
 }  // namespace gullymark::review

@@ -17,10 +17,10 @@ void judge_spread_of(Survey& survey, Survey::Index index, Column column) {
     if (!spread.beyond) {
         return;
     }
-    survey.tell(rules::spread_beyond, index,
-                std::string(engine::column_meaning(column)) + " is " + spread.spread->text + ", " +
-                    spread.excess + " beyond the allowable " + spread.allowable->text + ".",
-                "Take a longer inlet, set one upstream, or make sure that the spread is accepted.");
+    survey.report(rules::spread_beyond, index,
+                  std::string(engine::column_meaning(column)) + " is " + spread.spread->text + ", " +
+                      spread.excess + " beyond the allowable " + spread.allowable->text + ".",
+                  "Take a longer inlet, set one upstream, or make sure that the spread is accepted.");
 }
 
 /// The spread that the search of the gutter found: on a grade that at the opening.
@@ -32,11 +32,11 @@ void judge_ceiling(Survey& survey, Survey::Index index) {
         !is_stored_as(record.text(column), engine::ceiling_in_limits * *allowable, stored_formats())) {
         return;
     }
-    survey.tell(rules::spread_at_ceiling, index,
-                std::string(engine::column_meaning(column)) + " is " + told(record, column) +
-                    ", the greatest that is searched with an allowable spread of " +
-                    told(record, Column::ALLOWABLE_SPREAD) + ": the true one may be greater.",
-                "Do not rely on the results; bring less flow to the inlet.");
+    survey.report(rules::spread_at_ceiling, index,
+                  std::string(engine::column_meaning(column)) + " is " + told(record, column) +
+                      ", the greatest that is searched with an allowable spread of " +
+                      told(record, Column::ALLOWABLE_SPREAD) + ": the true one may be greater.",
+                  "Do not rely on the results; bring less flow to the inlet.");
 }
 
 void judge_depth(Survey& survey, Survey::Index index) {
@@ -44,10 +44,10 @@ void judge_depth(Survey& survey, Survey::Index index) {
     const auto curb = number_of(record.text(Column::CURB_HEIGHT));
     const auto depth = number_of(record.text(Column::CURBDEPTH));
     if (curb && depth && *curb > 0 && *depth > *curb) {
-        survey.tell(rules::depth_above_curb, index,
-                    "Water stands " + told(record, Column::CURBDEPTH) + " deep at a curb of " +
-                        told(record, Column::CURB_HEIGHT) + ".",
-                    "Bring less flow to the inlet, or check where the water goes behind the curb.");
+        survey.report(rules::depth_above_curb, index,
+                      "Water stands " + told(record, Column::CURBDEPTH) + " deep at a curb of " +
+                          told(record, Column::CURB_HEIGHT) + ".",
+                      "Bring less flow to the inlet, or check where the water goes behind the curb.");
     }
 }
 
@@ -58,10 +58,10 @@ void judge_flanks(Survey& survey, Survey::Index index) {
     }
     for (const auto& side : sides_of(record)) {
         if (record.text(side.preinlet).empty()) {
-            survey.tell(rules::sump_without_flank, index,
-                        "Should an inlet flank this sump? No previous inlet" + std::string(side.behind) +
-                            " is named.",
-                        "Make sure where the water goes when the inlet clogs.");
+            survey.report(rules::sump_without_flank, index,
+                          "Should an inlet flank this sump? No previous inlet" + std::string(side.behind) +
+                              " is named.",
+                          "Make sure where the water goes when the inlet clogs.");
         }
     }
 }

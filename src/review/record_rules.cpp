@@ -40,33 +40,33 @@ bool is_a_number_that_counts(const engine::InletRecord& record, Column column) {
 void judge_record(Survey& survey, Survey::Index index) {
     const auto& record = survey.inlet(index);
     if (section::inlet_of(record) == section::Inlet::unknown) {
-        survey.tell(
+        survey.report(
             rules::type_unknown, index,
             "Inlet type is stored as " + told(record, Column::INLET_TYPE) + ", which is none of the list.",
             "Open the inlet and pick its type from the list.");
     }
     const auto& location = record.text(Column::INLET_LOCATION);
     if (location != engine::words::continuous_grade && location != engine::words::sump) {
-        survey.tell(rules::location_unknown, index,
-                    "Inlet location is stored as " + told(record, Column::INLET_LOCATION) +
-                        ", which is none of the list.",
-                    "Open the inlet and pick its location from the list.");
+        survey.report(rules::location_unknown, index,
+                      "Inlet location is stored as " + told(record, Column::INLET_LOCATION) +
+                          ", which is none of the list.",
+                      "Open the inlet and pick its location from the list.");
     }
     for (const Column column : engine::all_columns) {
         const auto& text = record.text(column);
         if (!text.empty() && !number_of(text) && is_a_number_that_counts(record, column)) {
-            survey.tell(rules::number_unreadable, index,
-                        std::string(engine::column_meaning(column)) + " is stored as " +
-                            calculation::shortened(text) + ", which is no number.",
-                        "Open the inlet and type the number anew.");
+            survey.report(rules::number_unreadable, index,
+                          std::string(engine::column_meaning(column)) + " is stored as " +
+                              calculation::shortened(text) + ", which is no number.",
+                          "Open the inlet and type the number anew.");
         }
     }
     const auto& number = record.text(Column::INLET_NUMBER);
     if (const auto& same = survey.with_number(number); same.size() > 1 && same.front() == index) {
-        survey.tell(rules::number_not_unique, index,
-                    std::to_string(same.size()) + " inlets have the number " +
-                        told(record, Column::INLET_NUMBER) + ".",
-                    "Renumber all but one of them.");
+        survey.report(rules::number_not_unique, index,
+                      std::to_string(same.size()) + " inlets have the number " +
+                          told(record, Column::INLET_NUMBER) + ".",
+                      "Renumber all but one of them.");
     }
 }
 

@@ -19,24 +19,24 @@ void judge_results(Survey& survey, Survey::Index index, const calculation::Solve
         for (const auto& box : solved.boxes) {
             text += ": " + box.text;
         }
-        survey.tell(rules::not_solved, index, text, "Check the flow that comes to the inlet.");
+        survey.report(rules::not_solved, index, text, "Check the flow that comes to the inlet.");
         return;
     }
     for (const auto& box : solved.boxes) {
-        survey.tell(rules::solve_tells, index, "Solve tells: " + box.text,
-                    "Follow the worked calculation of the inlet.");
+        survey.report(rules::solve_tells, index, "Solve tells: " + box.text,
+                      "Follow the worked calculation of the inlet.");
     }
     const auto differing = calculation::differing_results(record, solved.inlet);
     if (!has_results && !differing.empty()) {
-        survey.tell(rules::not_solved, index, "The inlet has not been solved: no results are stored.",
-                    solve_it);
+        survey.report(rules::not_solved, index, "The inlet has not been solved: no results are stored.",
+                      solve_it);
         return;
     }
     for (const Column column : differing) {
-        survey.tell(rules::result_differs, index,
-                    std::string(engine::column_meaning(column)) + " is stored as " + told(record, column) +
-                        " and comes out as " + told(solved.inlet, column) + ".",
-                    solve_it);
+        survey.report(rules::result_differs, index,
+                      std::string(engine::column_meaning(column)) + " is stored as " + told(record, column) +
+                          " and comes out as " + told(solved.inlet, column) + ".",
+                      solve_it);
     }
 }
 

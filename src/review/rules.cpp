@@ -10,7 +10,7 @@ std::vector<Rule> all_rules() {
         type_unknown,     location_unknown,  number_unreadable,    number_not_unique,  balance_open,
         spread_beyond,    spread_at_ceiling, depth_above_curb,     sump_without_flank, solve_tells,
         bypass_negative,  intercepts_more,   sump_unclogged,       clogging_idle,      offset_side,
-        top_not_falling,  slot_falls,        water_without_spread,
+        top_not_falling,  slot_falls,        water_without_spread, slot_falls_clogged, gutter_drop_omitted,
     };
 }
 

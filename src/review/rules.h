@@ -48,6 +48,8 @@ inline constexpr Rule offset_side{"offset-side", Severity::doubtful, "The sign o
 inline constexpr Rule top_not_falling{"top-not-falling", Severity::doubtful, "An inlet does not stand lower than its previous inlet."};
 inline constexpr Rule slot_falls{"slot-falls", Severity::doubtful, "The spread at a slot in a sump falls as the flow grows."};
 inline constexpr Rule water_without_spread{"water-without-spread", Severity::doubtful, "Water stands at a combination in a sump, and its spread is 0."};
+inline constexpr Rule slot_falls_clogged{"slot-falls-clogged", Severity::doubtful, "The spread at a slot in a sump falls as more of it is clogged."};
+inline constexpr Rule gutter_drop_omitted{"gutter-drop-omitted", Severity::doubtful, "The depth at the curb of a sump leaves out the drop of the gutter."};
 // clang-format on
 
 }  // namespace rules

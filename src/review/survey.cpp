@@ -98,7 +98,7 @@ const std::vector<Survey::Index>& Survey::takers_of(const std::string& number) c
     return found == takers_.end() ? nowhere : found->second;
 }
 
-void Survey::tell(const Rule& rule, Index index, std::string text, std::string advice) {
+void Survey::report(const Rule& rule, Index index, std::string text, std::string advice) {
     told_.push_back({.index = index,
                      .finding = {.severity = rule.severity,
                                  .rule = rule.name,

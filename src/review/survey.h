@@ -65,7 +65,7 @@ class Survey {
     [[nodiscard]] const std::vector<Index>& takers_of(const std::string& number) const;
 
     /// Takes a finding on an inlet, or on the whole project.
-    void tell(const Rule& rule, Index index, std::string text, std::string advice);
+    void report(const Rule& rule, Index index, std::string text, std::string advice);
 
     /// All that was told, worst first, then in the order of the file.
     std::vector<Finding> take_findings();

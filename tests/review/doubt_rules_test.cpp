@@ -75,6 +75,39 @@ TEST_F(Doubts, ASlotWhoseSpreadFallsAsTheFlowGrowsIsTold) {
     EXPECT_EQ(told_by("slot-falls"), Told{});
 }
 
+/// Half of 10 ft clogged passes just below the step to the orifice; a twentieth more goes beyond it.
+TEST_F(Doubts, ASlotThatStandsShallowerWhenMoreIsCloggedIsTold) {
+    change(sump, {{Column::INLET_TYPE, "Slotted Inlet"},
+                  {Column::SLOTWIDTH, "12.000"},
+                  {Column::INLETLENGTH, "10.000"},
+                  {Column::TOTAL_DISCHARGE, "3.100"}});
+    solve(sump);
+    const auto told = told_by("slot-falls-clogged");
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_EQ(told.front().find("S1: Spread at the opening falls from " + stored(sump, Column::OPENSPREAD) +
+                                " ft to "),
+              0U)
+        << told.front();
+    EXPECT_NE(told.front().find(" when 55 % are clogged."), std::string::npos) << told.front();
+    change(sump, {{Column::GRATEPERCLOG, "25"}});
+    solve(sump);
+    EXPECT_EQ(told_by("slot-falls-clogged"), Told{});
+}
+
+/// 2 ft x (0.0308 - 0.0208) x 12 in/ft = 0.240 in
+TEST_F(Doubts, ADepthThatLeavesOutTheDropOfTheGutterIsTold) {
+    change(sump, {{Column::GUTXSLOPE, "0.0308"}});
+    solve(sump);
+    EXPECT_EQ(
+        told_by("gutter-drop-omitted"),
+        Told{"S1: Depth at the curb is " + stored(sump, Column::CURBDEPTH) +
+             " in, the spread times the slope of the pavement: it leaves out 0.240 in that the gutter falls "
+             "steeper."});
+    change(sump, {{Column::GUTXSLOPE, "0.0208"}});
+    solve(sump);
+    EXPECT_EQ(told_by("gutter-drop-omitted"), Told{});
+}
+
 TEST_F(Doubts, WaterAtACombinationWithoutASpreadIsTold) {
     change(sump, {{Column::INLET_TYPE, "Combination Curb and Grate Inlet"},
                   {Column::OPENSPREAD, "0.000"},

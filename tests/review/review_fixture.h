@@ -50,6 +50,7 @@ class ReviewTest : public engine::EngineTest {
                       {Column::THROATYPE, "Horizontal"},
                       {Column::THROATANGLE, "90.00"},
                       {Column::INLETLENGTH, "30.000"},
+                      {Column::GUTXSLOPE, "0.0208"},
                       {Column::GRATEPERCLOG, "50"}});
         bring_up_to_date();
     }
@@ -128,6 +129,7 @@ class ReviewTest : public engine::EngineTest {
     [[nodiscard]] Told told_by(std::string_view rule) const {
         Told all;
         for (const auto& finding : judge(project, limits)) {
+            EXPECT_TRUE(finding.advice.size() > 1 && finding.advice.back() == '.') << finding.rule;
             if (finding.rule == rule) {
                 all.push_back(finding.inlet.empty() ? finding.text : finding.inlet + ": " + finding.text);
             }
