@@ -7,7 +7,7 @@ set(program_folder ${staged}/lib/gullymarkal)
 # viewer of the help. dpkg-shlibdeps wants a control file where it runs.
 set(shlibdeps_folder ${CPACK_TOPLEVEL_DIRECTORY}/shlibdeps)
 file(WRITE ${shlibdeps_folder}/debian/control "Source: gullymarkal\n\nPackage: gullymarkal\nArchitecture: any\n")
-set(files -dDepends -e${program_folder}/GullymarkAL)
+set(files -dDepends -e${program_folder}/GullymarkAL -e${staged}/bin/gullymark-review)
 if(EXISTS ${program_folder}/gullymark-office)
   list(APPEND files -dRecommends -e${program_folder}/gullymark-office)
 endif()
@@ -26,7 +26,8 @@ set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
   "${Recommends}libreoffice-calc, xchm, xdg-utils, fonts-dejavu-core, fonts-liberation2 | fonts-liberation")
 
 # What the compiler says of itself helps no user.
-file(GLOB programs ${program_folder}/GullymarkAL ${program_folder}/gullymark-office)
+file(GLOB programs ${program_folder}/GullymarkAL ${program_folder}/gullymark-office
+  ${staged}/bin/gullymark-review)
 execute_process(COMMAND strip --remove-section=.comment --remove-section=.note ${programs} COMMAND_ERROR_IS_FATAL ANY)
 
 # gullymark-office finds the office's libraries in the office's own folder, which Debian's checker would forbid.
@@ -42,7 +43,8 @@ file(WRITE ${changelog} "${CPACK_PACKAGE_NAME} (${CPACK_PACKAGE_VERSION}) unstab
 
  -- ${CPACK_PACKAGE_CONTACT}  ${date}
 ")
-execute_process(COMMAND gzip -9n ${changelog} ${staged}/share/man/man1/GullymarkAL.1 COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND gzip -9n ${changelog} ${staged}/share/man/man1/GullymarkAL.1
+  ${staged}/share/man/man1/gullymark-review.1 COMMAND_ERROR_IS_FATAL ANY)
 
 # Whatever who packs may keep to himself elsewhere.
 execute_process(COMMAND chmod --recursive u=rwX,go=rX ${CPACK_TEMPORARY_DIRECTORY}/usr COMMAND_ERROR_IS_FATAL ANY)

@@ -10,7 +10,7 @@ umask 022
 export SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct 2>/dev/null || stat -c %Y CMakeLists.txt)}
 tools/set_up.sh build deb
 cmake --preset release >/dev/null
-cmake --build --preset release --target GullymarkAL
+cmake --build --preset release --target GullymarkAL gullymark-review
 rm -f build/release/gullymarkal_*.deb
 cd build/release
 cpack

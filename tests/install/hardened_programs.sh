@@ -16,7 +16,7 @@ has() {
   readelf -W "$4" "$1" 2>/dev/null | grep -E "$3" >/dev/null || complain "$(basename "$1") has no $2"
 }
 
-programs=("$build/bin/GullymarkAL")
+programs=("$build/bin/GullymarkAL" "$build/bin/gullymark-review")
 [ ! -e "$build/bin/gullymark-office" ] || programs+=("$build/bin/gullymark-office")
 for program in "${programs[@]}"; do
   has "$program" "position that chance chooses" 'FLAGS_1.* PIE( |$)' --dynamic

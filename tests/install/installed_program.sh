@@ -22,6 +22,7 @@ install_everything() {
 expected_files() {
   cat <<END
 bin/GullymarkAL
+bin/gullymark-review
 lib/gullymarkal/GullymarkAL
 lib/gullymarkal/GullymarkAL.chm
 lib/gullymarkal/GullymarkAL10.rdb
@@ -32,6 +33,7 @@ share/doc/gullymarkal/copyright
 share/icons/hicolor/scalable/apps/gullymarkal.svg
 share/icons/hicolor/scalable/mimetypes/application-x-gullymarkal.svg
 share/man/man1/GullymarkAL.1
+share/man/man1/gullymark-review.1
 share/metainfo/io.github.gullymarkal.GullymarkAL.metainfo.xml
 share/mime/packages/gullymarkal.xml
 END
@@ -72,6 +74,11 @@ look_at_file_type() {
   known "$work/foreign" application/vnd.sqlite3
 }
 
+check_project() {
+  "$work/usr/bin/gullymark-review" --check "$source/tests/files/metric.gmk" >"$work/log" 2>&1
+  [ $? -le 1 ] || fail "gullymark-review cannot read a project"
+}
+
 make_project() {
   press alt+f c
   await "Enter New Project Database File Name"
@@ -87,6 +94,7 @@ valid desktop-file-validate "$share/applications/gullymarkal.desktop"
 valid appstreamcli validate --no-net "$share/metainfo/io.github.gullymarkal.GullymarkAL.metainfo.xml"
 valid update-mime-database "$share/mime"
 look_at_file_type
+check_project
 start_display
 start_program
 make_project

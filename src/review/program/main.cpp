@@ -1,0 +1,67 @@
+/// gullymark-review: tells the findings of a project, which it only reads.
+
+#include <cstddef>
+#include <cstdio>
+#include <exception>
+#include <span>
+#include <string>
+
+#include "platform/failure.h"
+#include "review/finding_lines.h"
+#include "review/findings.h"
+#include "review/program/command_line.h"
+#include "review/read_project.h"
+
+namespace {
+
+using namespace gullymark;
+using review::CommandLine;
+
+constexpr int nothing_found = 0;
+constexpr int something_found = 1;
+constexpr int failed = 2;
+
+/// A script that gets half of the findings must not take them for all.
+void write_out(const std::string& text) {
+    if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size() || std::fflush(stdout) != 0) {
+        throw platform::Failure("the findings cannot be written to standard output");
+    }
+}
+
+void tell(const std::string& text) {
+    static_cast<void>(std::fputs(("gullymark-review: " + text + "\n").c_str(), stderr));
+}
+
+int check(const CommandLine& line) {
+    const auto project = review::read_project(line.file);
+    const auto findings = review::judge(project, {.bypass = line.bypass_limit});
+    write_out(line.as_json ? review::finding_json(findings) : review::finding_lines(findings));
+    tell(review::finding_counts(findings, project.inlets.size()));
+    return findings.empty() ? nothing_found : something_found;
+}
+
+int run(std::span<char* const> arguments) {
+    const CommandLine line = review::read_command_line(arguments);
+    switch (line.task) {
+        case CommandLine::Task::help:
+            write_out(review::help_text);
+            return nothing_found;
+        case CommandLine::Task::version:
+            write_out("gullymark-review " GULLYMARK_VERSION "\n");
+            return nothing_found;
+        default:
+            return check(line);
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        const std::span all(argv, static_cast<std::size_t>(argc));
+        return run(all.subspan(all.empty() ? 0 : 1));
+    } catch (const std::exception& error) {
+        tell(error.what());
+        return failed;
+    }
+}
