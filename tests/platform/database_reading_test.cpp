@@ -5,8 +5,11 @@
 #include <unistd.h>
 
 #include <chrono>
+#include <functional>
 #include <map>
 #include <thread>
+#include <tuple>
+#include <utility>
 
 #include "platform/all_rows.h"
 #include "platform/database.h"
@@ -182,17 +185,33 @@ TEST_F(ReadingTest, AFileIsReadWhileAnotherProgramPreparesASave) {
     EXPECT_EQ(stations_untouched(), "whole whole ");
 }
 
-TEST_F(ReadingTest, AShortLockIsWaitedFor) {
-    const Pipe ready;
-    const ChildProcess designer([&] {
+/// What is read while another program keeps the file locked for a tenth of a second, and how long it was.
+std::pair<std::string, std::chrono::milliseconds> read_behind_a_lock(
+    const std::string& path, const std::function<std::string()>& read) {
+    using Clock = std::chrono::steady_clock;
+    const Pipe from_designer;
+    ChildProcess designer([&] {
         sqlite3* file = nullptr;
         sqlite3_open(path.c_str(), &file);
         sqlite3_exec(file, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
-        ready.write("ready");
+        from_designer.write("locked");
         std::this_thread::sleep_for(100ms);
+        sqlite3_close(file);
     });
-    static_cast<void>(ready.read());
-    EXPECT_EQ(stations(), "whole whole ");
+    static_cast<void>(from_designer.read());
+    const auto began = Clock::now();
+    auto found = read();
+    designer.wait();
+    return {found, std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - began)};
+}
+
+TEST_F(ReadingTest, AShortLockIsWaitedFor) {
+    auto [found, waited] = read_behind_a_lock(path, [this] { return stations(); });
+    // On a busy machine the other program may sleep longer than anyone waits for it.
+    for (int again = 0; again < 20 && found != "whole whole " && waited > 250ms; ++again) {
+        std::tie(found, waited) = read_behind_a_lock(path, [this] { return stations(); });
+    }
+    EXPECT_EQ(found, "whole whole ");
 }
 
 TEST_F(ReadingTest, WhatIsNoFileIsRefusedAtOnce) {
