@@ -3,9 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "calculation/typeset.h"
 #include "engine/inlet_flow.h"
-#include "engine/units.h"
 
 namespace gullymark::review {
 
@@ -13,19 +11,6 @@ using engine::Column;
 using Index = Survey::Index;
 
 namespace {
-
-std::string listed(const Survey& survey, const std::vector<Index>& indices) {
-    constexpr std::size_t most = 8;
-    std::string list;
-    for (std::size_t i = 0; i < std::min(indices.size(), most); ++i) {
-        list += (i == 0 ? "" : ", ") + told(survey.inlet(indices[i]), Column::INLET_NUMBER);
-    }
-    return indices.size() > most ? list + " and " + std::to_string(indices.size() - most) + " more" : list;
-}
-
-bool is_same_number(std::string_view one, std::string_view other) {
-    return one == other || (number_of(one) && number_of(one) == number_of(other));
-}
 
 void judge_carryover(Survey& survey, Index index, const Side& side) {
     const auto& record = survey.inlet(index);
@@ -41,7 +26,7 @@ void judge_carryover(Survey& survey, Index index, const Side& side) {
         }
         return;
     }
-    const auto& found = survey.with_number(previous);
+    const auto& found = survey.links().with_number(previous);
     if (found.empty()) {
         survey.report(rules::previous_missing, index,
                       "Previous inlet" + std::string(side.behind) + " is " + told(record, side.preinlet) +
@@ -60,11 +45,11 @@ void judge_carryover(Survey& survey, Index index, const Side& side) {
 
 void judge_bypass(Survey& survey, Index index) {
     const auto& record = survey.inlet(index);
-    const auto& takers = survey.takers_of(record.text(Column::INLET_NUMBER));
-    if (takers.size() > 1 && survey.with_number(record.text(Column::INLET_NUMBER)).front() == index) {
+    const auto& takers = survey.links().takers_of(record.text(Column::INLET_NUMBER));
+    if (takers.size() > 1 && survey.links().with_number(record.text(Column::INLET_NUMBER)).front() == index) {
         survey.report(rules::previous_named_twice, index,
-                      "The inlet is the previous inlet of " + listed(survey, takers) + ": its bypass of " +
-                          told(record, Column::QCARRY) + " counts more than once.",
+                      "The inlet is the previous inlet of " + listed(survey.project(), takers) +
+                          ": its bypass of " + told(record, Column::QCARRY) + " counts more than once.",
                       "Keep it as previous inlet of one side.");
     }
     const auto bypass = number_of(record.text(Column::QCARRY));
@@ -111,7 +96,8 @@ class LoopSearch {
                 continue;
             }
             const auto& previous = survey_.inlet(step.index).text(sides[step.next_side++].preinlet);
-            if (const auto& found = survey_.with_number(previous); !previous.empty() && !found.empty()) {
+            if (const auto& found = survey_.links().with_number(previous);
+                !previous.empty() && !found.empty()) {
                 go_to(found.front());
             }
         }
@@ -134,8 +120,9 @@ class LoopSearch {
         std::reverse(loop.begin(), loop.end());  // the way leads up, the water down
         std::rotate(loop.begin(), std::min_element(loop.begin(), loop.end()), loop.end());
         survey_.report(rules::previous_in_loop, loop.front(),
-                       loop.size() == 1 ? "The inlet is its own previous inlet."
-                                        : "Inlets " + listed(survey_, loop) + " feed each other in a loop.",
+                       loop.size() == 1
+                           ? "The inlet is its own previous inlet."
+                           : "Inlets " + listed(survey_.project(), loop) + " feed each other in a loop.",
                        "Take the previous inlet away where the road is highest.");
     }
 

@@ -75,7 +75,7 @@ void judge_top(Survey& survey, Survey::Index index) {
     const auto& record = survey.inlet(index);
     const auto top = number_of(record.text(Column::TOP_ELEVATION));
     for (const auto& side : sides_of(record)) {
-        const auto& previous = survey.with_number(record.text(side.preinlet));
+        const auto& previous = survey.links().with_number(record.text(side.preinlet));
         if (!top || record.text(side.preinlet).empty() || previous.empty()) {
             continue;
         }

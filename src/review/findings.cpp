@@ -13,11 +13,19 @@
 namespace gullymark::review {
 
 std::vector<Finding> judge(const Project& project, const Limits& limits) {
+    return *judge(project, limits, [](std::size_t, std::size_t) { return true; });
+}
+
+std::optional<std::vector<Finding>> judge(const Project& project, const Limits& limits,
+                                          const Progress& progress) {
     const calculation::UnitsInForce units(project.units);
     engine::set_unit_defaults();
     const std::string number_format = engine::unit_constants.numberFormat;
     Survey survey(project, limits);
     for (Survey::Index index = 0; index < survey.count(); ++index) {
+        if (!progress(index, survey.count())) {
+            return std::nullopt;
+        }
         const auto solved = calculation::solve_like_stored(survey.inlet(index), project.units, number_format);
         judge_results(survey, index, solved);
         judge_record(survey, index);

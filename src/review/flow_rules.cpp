@@ -1,12 +1,9 @@
 #include "review/flow_rules.h"
 
-#include <algorithm>
-#include <cmath>
-
 #include "engine/inlet_flow.h"
 #include "engine/solve.h"
 #include "platform/number_text.h"
-#include "section/measures.h"
+#include "review/balance.h"
 
 namespace gullymark::review {
 
@@ -53,17 +50,6 @@ void judge_discharge(Survey& survey, Survey::Index index, const Side& side) {
                   "Open the inlet, go through its runoff or check the override, solve and save.");
 }
 
-engine::FlowShares shares_of(const engine::InletRecord& record) {
-    engine::FlowShares shares{.from_left = number_or_zero(record, Column::DISCHARGE1),
-                              .bypass_left = number_or_zero(record, Column::CARRYOVER1),
-                              .overland = number_or_zero(record, Column::OVERLAND_FLOW)};
-    if (section::in_sump(record)) {
-        shares.from_right = number_or_zero(record, Column::DISCHARGE2);
-        shares.bypass_right = number_or_zero(record, Column::CARRYOVER2);
-    }
-    return shares;
-}
-
 void judge_total(Survey& survey, Survey::Index index) {
     const auto& record = survey.inlet(index);
     try {
@@ -96,34 +82,6 @@ void judge_vanished_flow(Survey& survey, Survey::Index index) {
     }
 }
 
-/// Half a unit of the last digit of a text.
-double half_a_digit(const std::string& text) {
-    const auto point = text.find('.');
-    const auto decimals = point == std::string::npos ? 0 : text.size() - point - 1;
-    return 0.5 * std::pow(10.0, -static_cast<double>(std::min<std::size_t>(decimals, 300)));
-}
-
-struct Balance {
-    double in = 0;
-    double intercepted = 0;
-    double out = 0;
-    double rounding = 0;
-};
-
-void add_inlet(Balance& balance, const Survey& survey, const engine::InletRecord& record) {
-    const auto shares = shares_of(record);
-    balance.in += shares.from_left.number() + shares.from_right.number() + shares.overland.number();
-    balance.intercepted += number_or_zero(record, Column::QINT);
-    if (survey.takers_of(record.text(Column::INLET_NUMBER)).empty()) {
-        balance.out += number_or_zero(record, Column::QCARRY);
-    }
-    for (const Column column : {Column::TOTAL_DISCHARGE, Column::QINT, Column::QCARRY}) {
-        if (number_of(record.text(column))) {
-            balance.rounding += half_a_digit(record.text(column));
-        }
-    }
-}
-
 }  // namespace
 
 void judge_flows(Survey& survey, Survey::Index index) {
@@ -135,19 +93,14 @@ void judge_flows(Survey& survey, Survey::Index index) {
 }
 
 void judge_balance(Survey& survey) {
-    Balance balance;
-    for (const auto& record : survey.project().inlets) {
-        add_inlet(balance, survey, record);
-    }
-    const double unexplained = balance.in - balance.intercepted - balance.out;
-    constexpr double sums_of_doubles = 1e-9;
-    if (std::fabs(unexplained) <= balance.rounding + sums_of_doubles * std::fabs(balance.in)) {
+    const Balance balance = balance_of(survey.project(), survey.links());
+    if (balance.closes()) {
         return;
     }
-    survey.report(rules::balance_open, Survey::whole_project,
+    survey.report(rules::balance_open, whole_project,
                   "Runoff in is " + told_flow(balance.in) + ", intercepted are " +
                       told_flow(balance.intercepted) + ", bypass out is " + told_flow(balance.out) + ": " +
-                      told_flow(unexplained) + " are unexplained.",
+                      told_flow(balance.unexplained()) + " are unexplained.",
                   "Bring the inlets up to date from the highest down; the findings on them tell which.");
 }
 

@@ -62,7 +62,7 @@ void judge_record(Survey& survey, Survey::Index index) {
         }
     }
     const auto& number = record.text(Column::INLET_NUMBER);
-    if (const auto& same = survey.with_number(number); same.size() > 1 && same.front() == index) {
+    if (const auto& same = survey.links().with_number(number); same.size() > 1 && same.front() == index) {
         survey.report(rules::number_not_unique, index,
                       std::to_string(same.size()) + " inlets have the number " +
                           told(record, Column::INLET_NUMBER) + ".",

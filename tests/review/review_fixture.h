@@ -98,6 +98,12 @@ class ReviewTest : public engine::EngineTest {
     void update(std::size_t index) {
         auto& inlet = project.inlets.at(index);
         const bool in_sump = inlet.text(Column::INLET_LOCATION) == "SUMP";
+        for (const auto& [column, zero] :
+             {std::pair{Column::DISCHARGE2, "0.000"}, std::pair{Column::CARRYOVER2, "0.0"}}) {
+            if (inlet.text(column).empty()) {
+                inlet.load(column, zero);
+            }
+        }
         take_bypass(inlet, Column::PREINLET1, Column::CARRYOVER1);
         if (in_sump) {
             take_bypass(inlet, Column::PREINLET2, Column::CARRYOVER2);
@@ -151,8 +157,12 @@ class ReviewTest : public engine::EngineTest {
 
   private:
     void take_bypass(engine::InletRecord& inlet, Column previous, Column carryover) {
+        if (inlet.text(previous).empty()) {
+            inlet.load(carryover, "0.0");
+            return;
+        }
         for (const auto& other : project.inlets) {
-            if (!inlet.text(previous).empty() && other.text(Column::INLET_NUMBER) == inlet.text(previous)) {
+            if (other.text(Column::INLET_NUMBER) == inlet.text(previous)) {
                 inlet.load(carryover, std::string(engine::carryover_from(other.text(Column::QCARRY))));
             }
         }
