@@ -36,6 +36,7 @@ void read_all_rows(const Connection& connection, const std::string& statement,
         columns.emplace_back(sqlite3_column_name(query.get(), column));
     }
     while (has_row(query, connection.handle()->file)) {
+        const CallersTime not_counted;
         Row row;
         row.reserve(columns.size());
         for (int column = 0; column < query.column_count(); ++column) {

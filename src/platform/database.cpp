@@ -93,7 +93,7 @@ void Connection::check() {
 
 void Connection::refuse_writes() {
     Statement(open_file(), "PRAGMA query_only = ON").run();
-    handle_->limit_time(DatabaseHandle::most_milliseconds_when_damaged);
+    handle_->limit_time(DatabaseHandle::most_time_when_damaged);
 }
 
 bool Connection::refuses_writes() const {

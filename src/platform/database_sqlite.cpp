@@ -1,5 +1,6 @@
 #include "platform/database_sqlite.h"
 
+#include <chrono>
 #include <ctime>
 
 #include "platform/characters.h"
@@ -10,14 +11,14 @@ namespace gullymark::platform {
 namespace {
 
 /// The processor's time that this thread has used.
-std::int64_t milliseconds_used() {
+std::chrono::nanoseconds time_used() {
     timespec now{};
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return now.tv_sec * 1000 + now.tv_nsec / 1'000'000;
+    return std::chrono::seconds(now.tv_sec) + std::chrono::nanoseconds(now.tv_nsec);
 }
 
-/// When the statement that runs began: one runs at a time.
-thread_local std::int64_t statement_began = 0;
+/// When the statement that runs began, later by what its caller has used: one runs at a time.
+thread_local std::chrono::nanoseconds statement_began{};
 
 /// In the engine's words, which may hold a name from the file, of any length.
 Failure failure_of(sqlite3* file) {
@@ -35,20 +36,26 @@ void DatabaseHandle::close() {
     file = nullptr;
 }
 
-void DatabaseHandle::limit_time(std::int64_t milliseconds) {
+void DatabaseHandle::limit_time(std::chrono::milliseconds most) {
     constexpr int steps_between = 1000;
-    milliseconds_ = milliseconds;
+    most_time_ = most;
     sqlite3_progress_handler(file, steps_between, is_out_of_time, this);
 }
 
 int DatabaseHandle::is_out_of_time(void* handle) {
     auto& self = *static_cast<DatabaseHandle*>(handle);
-    self.out_of_time_ = self.out_of_time_ || milliseconds_used() - statement_began > self.milliseconds_;
+    self.out_of_time_ = self.out_of_time_ || time_used() - statement_began > self.most_time_;
     return self.out_of_time_ ? 1 : 0;
 }
 
+CallersTime::CallersTime() : began_(time_used()) {}
+
+CallersTime::~CallersTime() {
+    statement_began += time_used() - began_;
+}
+
 Statement::Statement(sqlite3* file, std::string_view text) : file_(file) {
-    statement_began = milliseconds_used();
+    statement_began = time_used();
     const char* tail = nullptr;
     if (sqlite3_prepare_v2(file, text.data(), static_cast<int>(text.size()), &statement_, &tail) !=
         SQLITE_OK) {

@@ -2,6 +2,7 @@
 
 #include <sqlite3.h>
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -43,11 +44,11 @@ struct DatabaseHandle {
     void close();
 
     // The longest statement on 100,000 inlets, the check, needs a seventh of it.
-    static constexpr std::int64_t most_milliseconds = 1500;
-    static constexpr std::int64_t most_milliseconds_when_damaged = 250;
+    static constexpr std::chrono::milliseconds most_time{1500};
+    static constexpr std::chrono::milliseconds most_time_when_damaged{250};
     /// From here on each statement may use so much of the processor; one that needs more fails, and all after it do: in a
     /// damaged or crafted file a statement may never end.
-    void limit_time(std::int64_t milliseconds = most_milliseconds);
+    void limit_time(std::chrono::milliseconds most = most_time);
 
     /// The keys of the rows, in the order of `query`. Sets of the same rows share them until the file changes: a
     /// workspace reads them for three views, and several times at a save.
@@ -57,8 +58,22 @@ struct DatabaseHandle {
     static int is_out_of_time(void* handle);
 
     KeysRead last_read_;
-    std::int64_t milliseconds_ = most_milliseconds;
+    std::chrono::milliseconds most_time_ = most_time;
     bool out_of_time_ = false;
+};
+
+/// As long as it stands, its time is not that of the statement: what is done with a row may take longer than finding it.
+class CallersTime {
+  public:
+    CallersTime();
+    ~CallersTime();
+    CallersTime(const CallersTime&) = delete;
+    CallersTime& operator=(const CallersTime&) = delete;
+    CallersTime(CallersTime&&) = delete;
+    CallersTime& operator=(CallersTime&&) = delete;
+
+  private:
+    std::chrono::nanoseconds began_;
 };
 
 /// One statement for as long as it runs. It never outlives a call: an open one would hold a lock on the file and

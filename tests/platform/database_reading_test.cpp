@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <chrono>
+#include <ctime>
 #include <functional>
 #include <map>
 #include <thread>
@@ -212,6 +213,23 @@ TEST_F(ReadingTest, AShortLockIsWaitedFor) {
         std::tie(found, waited) = read_behind_a_lock(path, [this] { return stations(); });
     }
     EXPECT_EQ(found, "whole whole ");
+}
+
+TEST_F(ReadingTest, WhatIsDoneWithARowIsNotTheTimeOfItsReading) {
+    run_sql(path,
+            "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 200)"
+            " INSERT INTO INLET (INLET_NUMBER) SELECT i FROM n");
+    Connection connection;
+    connection.open_to_read(path);
+    int rows = 0;
+    read_all_rows(connection, "SELECT * FROM INLET", [&](const auto& /*columns*/, const Row& /*row*/) {
+        constexpr auto longer_than_a_statement_may_take = CLOCKS_PER_SEC * 8 / 5;
+        const auto began = std::clock();
+        while (++rows == 1 && std::clock() - began < longer_than_a_statement_may_take) {
+            rows = 0;
+        }
+    });
+    EXPECT_EQ(rows, 202);
 }
 
 TEST_F(ReadingTest, WhatIsNoFileIsRefusedAtOnce) {
