@@ -7,7 +7,7 @@ set(program_folder ${staged}/lib/gullymarkal)
 # viewer of the help. dpkg-shlibdeps wants a control file where it runs.
 set(shlibdeps_folder ${CPACK_TOPLEVEL_DIRECTORY}/shlibdeps)
 file(WRITE ${shlibdeps_folder}/debian/control "Source: gullymarkal\n\nPackage: gullymarkal\nArchitecture: any\n")
-set(files -dDepends -e${program_folder}/GullymarkAL -e${staged}/bin/gullymark-review)
+set(files -dDepends -e${program_folder}/GullymarkAL -e${program_folder}/gullymark-review)
 if(EXISTS ${program_folder}/gullymark-office)
   list(APPEND files -dRecommends -e${program_folder}/gullymark-office)
 endif()
@@ -26,8 +26,7 @@ set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
   "${Recommends}libreoffice-calc, xchm, xdg-utils, fonts-dejavu-core, fonts-liberation2 | fonts-liberation")
 
 # What the compiler says of itself helps no user.
-file(GLOB programs ${program_folder}/GullymarkAL ${program_folder}/gullymark-office
-  ${staged}/bin/gullymark-review)
+file(GLOB programs ${program_folder}/GullymarkAL ${program_folder}/gullymark-review ${program_folder}/gullymark-office)
 execute_process(COMMAND strip --remove-section=.comment --remove-section=.note ${programs} COMMAND_ERROR_IS_FATAL ANY)
 
 # gullymark-office finds the office's libraries in the office's own folder, which Debian's checker would forbid.

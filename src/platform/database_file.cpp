@@ -1,13 +1,9 @@
 #include "platform/database_file.h"
 
-#include <sys/stat.h>
-
 #include <array>
-#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <utility>
-#include <vector>
 
 #include "platform/characters.h"
 #include "platform/database_guard.h"
@@ -15,6 +11,7 @@
 #include "platform/database_look.h"
 #include "platform/database_statements.h"
 #include "platform/failure.h"
+#include "platform/file_marks.h"
 
 namespace gullymark::platform {
 namespace {
@@ -177,21 +174,6 @@ void read_pages(DatabaseHandle& memory, const std::string& path, int access) {
     if (copied != SQLITE_DONE) {
         throw Failure(sqlite3_errstr(copied));
     }
-}
-
-/// Of the file and what stands beside it: which file it is, how large, and when it was changed.
-std::vector<std::int64_t> read_marks(const std::string& path) {
-    std::vector<std::int64_t> marks;
-    for (const char* ending : {"", "-journal", "-wal"}) {
-        struct stat status {};
-        if (lstat((path + ending).c_str(), &status) != 0) {
-            marks.push_back(-1);
-            continue;
-        }
-        marks.insert(marks.end(), {static_cast<std::int64_t>(status.st_ino), status.st_size,
-                                   status.st_mtim.tv_sec, status.st_mtim.tv_nsec});
-    }
-    return marks;
 }
 
 /// False when another program changed something while it was copied: the pages are then of no one moment.

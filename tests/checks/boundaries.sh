@@ -27,8 +27,16 @@ forbid review    "store/|editor/|reports/|shell/|sqlite|com/sun/star|$qt"
 forbid shell     "sqlite|com/sun/star"
 
 # The rooms of the shell: the windows stand on what serves every one of them, and know nothing of the start.
-forbid shell/binding "shell/(windows/|[a-z_]+\.h)"
-forbid shell/windows "shell/[a-z_]+\.h"
+forbid shell/binding "review/|shell/(windows/|review/|[a-z_]+\.h)"
+forbid shell/windows "review/|shell/(review/|[a-z_]+\.h)"
+# The windows of the designer's program and those of the reviewer's know nothing of each other's start, and the reviewer's know
+# no form.
+forbid shell/review "editor/|reports/|catalogue/|shell/start\.h"
+hits=$(grep -nE '^#include "(shell/)?review/' src/shell/*.cpp src/shell/*.h)
+if [ -n "$hits" ]; then
+  printf 'the program for the designer knows the reviewer:\n%s\n' "$hits"
+  failed=1
+fi
 
 # The link line says the same.
 hits=$(grep -lE 'Qt6::' src/*/CMakeLists.txt | grep -v '^src/shell/'; grep -lE 'SQLite|LibreOffice' src/*/CMakeLists.txt | grep -v '^src/platform/')

@@ -5,7 +5,7 @@
 #
 #   tidiness.sh SOURCE_FOLDER BUILD_FOLDER [--deep]
 #
-# The analysis of paths looks at every function for itself, not only as its callers use it, and ends in each behind 5000
+# The analysis of paths looks at every function for itself, not only as its callers use it, and ends in each behind 20000
 # nodes, new lines first: the formulas have more paths than anybody waits for at every change. --deep looks at the paths alone,
 # as far as clang goes by itself, best in a build that joins no sources.
 cd "$1" || exit 2
@@ -19,7 +19,7 @@ export top build depth stamps
 # look_at UNIT SUM
 look_at() {
   local checks=-readability-duplicate-include # Of joined sources; house_rules holds it.
-  local paths=(--extra-arg={-Xclang,-analyzer-inlining-mode=all,-Xclang,-analyzer-config,-Xclang,max-nodes=5000})
+  local paths=(--extra-arg={-Xclang,-analyzer-inlining-mode=all,-Xclang,-analyzer-config,-Xclang,max-nodes=20000})
   [ ! -e "$stamps/$2" ] || return 0
   echo "$1" >>"$build/tidy/looked_at"
   [ "$depth" != --deep ] || { checks='-*,clang-analyzer-*,-clang-analyzer-cplusplus.NewDeleteLeaks' && paths=(); }

@@ -28,6 +28,7 @@ lib/gullymarkal/GullymarkAL.chm
 lib/gullymarkal/GullymarkAL10.rdb
 lib/gullymarkal/INLETDESIGNFORMAL.xlr
 lib/gullymarkal/INLET_REPORTAL.xlr
+lib/gullymarkal/gullymark-review
 share/applications/gullymarkal.desktop
 share/doc/gullymarkal/copyright
 share/icons/hicolor/scalable/apps/gullymarkal.svg
@@ -43,7 +44,9 @@ END
 look_at_files() {
   diff <(expected_files | LC_ALL=C sort) <(cd "$work/usr" && find . ! -type d -printf '%P\n' | LC_ALL=C sort) >"$work/log" ||
     fail "other files (>) than expected (<)"
-  [ "$(readlink "$program")" = ../lib/gullymarkal/GullymarkAL ] || fail "the link leads to $(readlink "$program")"
+  for name in GullymarkAL gullymark-review; do
+    [ "$(readlink "$work/usr/bin/$name")" = "../lib/gullymarkal/$name" ] || fail "the link leads to $(readlink "$work/usr/bin/$name")"
+  done
 }
 
 # valid COMMAND ARGUMENT...

@@ -9,7 +9,7 @@ template=$2
 files=$3
 work=$(mktemp -d)
 trap 'chmod -R u+rwx "$work"; rm -rf "$work"' EXIT
-unset DISPLAY WAYLAND_DISPLAY
+unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM
 
 fail() {
   echo "checked_project: $1" >&2
@@ -100,12 +100,20 @@ limits_are_numbers() {
 }
 
 other_command_lines_are_refused() {
-  refused "--check with a file is missing"
   refused "--check with a file is missing" --json
+  refused "--check with a file is missing" "$work/road/road.gmk" --bypass-limit 1
   refused "--check needs a file" --check
-  refused "there is no place for the argument $work/road/road.gmk" "$work/road/road.gmk"
+  refused "there is no place for the argument $work/road/road.gmk" "$work/road/road.gmk" "$work/road/road.gmk"
+  refused "there is no place for the argument $work/road/road.gmk" --check "$work/road/empty.gmk" "$work/road/road.gmk"
+  refused "there is no place for the argument " ""
   refused "there is no place for the argument --check" --check "$work/road/road.gmk" --check "$work/road/road.gmk"
   refused "there is no place for the argument --fix" --check "$work/road/road.gmk" --fix
+}
+
+a_window_needs_a_display() {
+  refused "there is no display for a window; --check needs none"
+  refused "there is no display for a window; --check needs none" "$work/road/road.gmk"
+  DISPLAY=:65533 refused "there is no display for a window; --check needs none" "$work/road/road.gmk"
 }
 
 what_cannot_be_read_is_refused() {
@@ -169,6 +177,7 @@ findings_are_lines
 json_tells_the_same
 limits_are_numbers
 other_command_lines_are_refused
+a_window_needs_a_display
 a_failed_write_is_a_failure
 help_and_version_are_told
 chmod 755 "$work/road"

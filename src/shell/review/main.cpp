@@ -1,4 +1,4 @@
-/// gullymark-review: tells the findings of a project, which it only reads.
+/// gullymark-review: shows or tells the findings of a project, which it only reads. Only its window knows the toolkit.
 
 #include <cstddef>
 #include <cstdio>
@@ -9,8 +9,9 @@
 #include "platform/failure.h"
 #include "review/finding_lines.h"
 #include "review/findings.h"
-#include "review/program/command_line.h"
 #include "review/read_project.h"
+#include "shell/review/command_line.h"
+#include "shell/review/start_review.h"
 
 namespace {
 
@@ -40,8 +41,9 @@ int check(const CommandLine& line) {
     return findings.empty() ? nothing_found : something_found;
 }
 
-int run(std::span<char* const> arguments) {
-    const CommandLine line = review::read_command_line(arguments);
+int run(int argc, char** argv) {
+    const std::span all(argv, static_cast<std::size_t>(argc));
+    const CommandLine line = review::read_command_line(all.subspan(all.empty() ? 0 : 1));
     switch (line.task) {
         case CommandLine::Task::help:
             write_out(review::help_text);
@@ -49,17 +51,20 @@ int run(std::span<char* const> arguments) {
         case CommandLine::Task::version:
             write_out("gullymark-review " GULLYMARK_VERSION "\n");
             return nothing_found;
-        default:
+        case CommandLine::Task::check:
             return check(line);
+        case CommandLine::Task::window:
+            break;
     }
+    shell::run_review(argc, argv, line.file);
+    return nothing_found;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
     try {
-        const std::span all(argv, static_cast<std::size_t>(argc));
-        return run(all.subspan(all.empty() ? 0 : 1));
+        return run(argc, argv);
     } catch (const std::exception& error) {
         tell(error.what());
         return failed;

@@ -1,4 +1,4 @@
-#include "review/program/command_line.h"
+#include "shell/review/command_line.h"
 
 #include <cstddef>
 
@@ -40,12 +40,15 @@ std::string read_limit(const std::string& text) {
 }  // namespace
 
 const char* const help_text =
-    R"(Usage: gullymark-review --check FILE [--bypass-limit Q] [--json]
+    R"(Usage: gullymark-review [FILE]
+       gullymark-review --check FILE [--bypass-limit Q] [--json]
        gullymark-review --help | --version
 
 Reads a project, solves its inlets anew and tells what is wrong, beyond what is
 allowed, or doubtful. The file is only read.
 
+  FILE                open a window with this project; without FILE, an empty
+                      window
   --check FILE        tell the findings of this project on standard output,
                       one on a line: severity, rule, inlet, text and advice,
                       with a tab between them; their counts on standard error
@@ -55,14 +58,16 @@ allowed, or doubtful. The file is only read.
   --help              tell this
   --version           tell the version
 
-Exit status: 0 nothing found, 1 findings, 2 the project could not be read, or
-the command line is not one of these.
+Exit status: 0 nothing found, or the window was closed, 1 findings, 2 the
+project could not be read, there is no display for a window, or the command
+line is not one of these.
 )";
 
 CommandLine read_command_line(std::span<char* const> arguments) {
     CommandLine line;
     Arguments left(arguments);
-    bool checks = false;
+    bool only_for_check = false;
+    bool has_file = false;
     while (!left.at_end()) {
         const std::string argument = left.take();
         if (argument == "--help") {
@@ -71,18 +76,24 @@ CommandLine read_command_line(std::span<char* const> arguments) {
         if (argument == "--version") {
             return {.task = CommandLine::Task::version};
         }
-        if (argument == "--check" && !checks) {
+        if (argument == "--check" && !has_file) {
             line.file = left.take_value(argument, "a file");
-            checks = true;
+            line.task = CommandLine::Task::check;
+            has_file = true;
         } else if (argument == "--bypass-limit") {
             line.bypass_limit = read_limit(left.take_value(argument, "a flow"));
+            only_for_check = true;
         } else if (argument == "--json") {
             line.as_json = true;
+            only_for_check = true;
+        } else if (!has_file && !argument.empty() && argument.front() != '-') {
+            line.file = argument;
+            has_file = true;
         } else {
             throw Failure("there is no place for the argument " + argument);
         }
     }
-    if (!checks) {
+    if (line.task == CommandLine::Task::window && only_for_check) {
         throw Failure("--check with a file is missing");
     }
     return line;

@@ -7,10 +7,10 @@ namespace gullymark::review {
 
 /// What the command line asks for.
 struct CommandLine {
-    enum class Task : unsigned char { help, version, check };
+    enum class Task : unsigned char { help, version, check, window };
 
-    Task task = Task::check;
-    std::string file;
+    Task task = Task::window;
+    std::string file;  // of a window it may be empty
     std::string bypass_limit = "0";
     bool as_json = false;
 };
@@ -19,7 +19,7 @@ struct CommandLine {
 extern const char* const help_text;
 
 /// Reads the arguments, the program's name not among them. Throws Failure, in one sentence, for a command line that asks
-/// for nothing, or for what there is not.
+/// for what there is not.
 CommandLine read_command_line(std::span<char* const> arguments);
 
 }  // namespace gullymark::review

@@ -1,0 +1,46 @@
+#include "shell/review/long_work.h"
+
+#include <QCoreApplication>
+#include <QProgressDialog>
+
+namespace gullymark::shell {
+namespace {
+
+constexpr qint64 shown_after = 500;
+constexpr qint64 between_looks = 50;
+constexpr int whole = 1000;
+
+}  // namespace
+
+LongWork::LongWork(QWidget* parent, const QString& what) : parent_(parent), what_(what), next_(shown_after) {
+    since_.start();
+}
+
+LongWork::~LongWork() = default;
+
+void LongWork::show() {
+    dialog_ = std::make_unique<QProgressDialog>(what_, QStringLiteral("Cancel"), 0, whole, parent_);
+    dialog_->setObjectName(QStringLiteral("progress"));
+    dialog_->setWindowTitle(QStringLiteral("GullymarkAL Review"));
+    dialog_->setWindowModality(Qt::ApplicationModal);
+    dialog_->setAutoClose(false);
+    dialog_->setAutoReset(false);
+    dialog_->setMinimumDuration(0);
+    dialog_->show();
+}
+
+bool LongWork::go_on(std::size_t done, std::size_t all) {
+    if (since_.elapsed() < next_ || ended_) {
+        return !ended_;
+    }
+    if (!dialog_) {
+        show();
+    }
+    dialog_->setValue(all == 0 ? 0 : static_cast<int>(done * whole / all));
+    QCoreApplication::processEvents();
+    next_ = since_.elapsed() + between_looks;
+    ended_ = dialog_->wasCanceled();
+    return !ended_;
+}
+
+}  // namespace gullymark::shell

@@ -1,0 +1,95 @@
+#include "shell/review/review_head.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+
+#include "platform/characters.h"
+#include "review/finding_lines.h"
+#include "shell/binding/qt_text.h"
+#include "shell/review/severity_sign.h"
+
+namespace gullymark::shell {
+namespace {
+
+QLabel* line(const char* name, const char* accessible) {
+    auto* label = new QLabel;
+    label->setObjectName(QString::fromLatin1(name));
+    label->setAccessibleName(QString::fromLatin1(accessible));
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    label->setWordWrap(true);
+    return label;
+}
+
+QString project_line(const review::Project& project) {
+    constexpr std::size_t most_characters = 80;
+    QStringList parts;
+    for (const std::string* text :
+         {&project.name, &project.id, &project.county, &project.state, &project.designer}) {
+        if (!text->empty()) {
+            parts << to_qt(platform::first_characters(platform::on_one_line(*text), most_characters));
+        }
+    }
+    return parts.isEmpty() ? QStringLiteral("A project without details")
+                           : parts.join(QStringLiteral("  \u00b7  "));
+}
+
+}  // namespace
+
+ReviewHead::ReviewHead(QWidget* parent)
+    : QWidget(parent),
+      project_(line("project", "Project")),
+      counts_(line("counts", "Findings")),
+      warning_(new QWidget),
+      warning_sign_(new QLabel),
+      warning_text_(line("warning", "Warning")) {
+    QFont bold = font();
+    bold.setBold(true);
+    project_->setFont(bold);
+    project_->setText(QStringLiteral("No project is open"));
+    warning_text_->setFont(bold);
+    auto* beside = new QHBoxLayout(warning_);
+    beside->setContentsMargins({});
+    beside->addWidget(warning_sign_);
+    beside->addWidget(warning_text_, 1);
+    warning_->hide();
+    auto* layout = new QVBoxLayout(this);
+    constexpr int gap = 2;
+    layout->setSpacing(gap);
+    for (QWidget* part : {static_cast<QWidget*>(project_), static_cast<QWidget*>(counts_), warning_}) {
+        layout->addWidget(part);
+    }
+    color_warning();
+}
+
+void ReviewHead::show_project(const review::Reviewed& reviewed, const QString& file) {
+    project_->setText(project_line(reviewed.project));
+    project_->setToolTip(file);
+    counts_->setText(to_qt(review::finding_counts(reviewed.findings, reviewed.project.inlets.size())));
+}
+
+void ReviewHead::warn(const QString& text) {
+    warning_text_->setText(text);
+    warning_->setVisible(!text.isEmpty());
+}
+
+void ReviewHead::color_warning() {
+    const QColor color = severity_color(review::Severity::beyond, palette());
+    QPalette colors = warning_text_->palette();
+    if (colors.color(QPalette::WindowText) != color) {
+        colors.setColor(QPalette::WindowText, color);
+        warning_text_->setPalette(colors);
+    }
+    warning_sign_->setPixmap(
+        QPixmap::fromImage(severity_image(review::Severity::beyond, palette(), fontMetrics().height())));
+}
+
+void ReviewHead::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        color_warning();
+    }
+}
+
+}  // namespace gullymark::shell
