@@ -29,7 +29,7 @@ class Kept {
     Kept& operator=(Kept&&) = delete;
 
   private:
-    engine::InletRecord inlet_ = engine::open_inlet;
+    engine::InletRecord inlet_ = std::move(engine::open_inlet);
     bool solved_ = engine::DataSolved;
     std::string units_ = engine::UnitSystem;
     engine::UnitConstants constants_ = engine::unit_constants;
@@ -37,12 +37,11 @@ class Kept {
     std::function<platform::Answer(const platform::Box&)> show_box_ = platform::outside.show_box;
 };
 
-}  // namespace
-
-SolvedCopy solve_copy(const engine::InletRecord& inlet, std::string units, std::string number_format) {
-    SolvedCopy copy{.inlet = inlet, .number_format = std::move(number_format)};
+SolvedCopy solve(const engine::InletRecord& inlet, std::string units, std::string number_format,
+                 bool is_traced) {
+    SolvedCopy copy{.inlet = inlet, .number_format = std::move(number_format)};  // it may be the open one
     const Kept kept;
-    engine::open_inlet = copy.inlet;
+    engine::open_inlet = std::move(copy.inlet);
     engine::open_inlet.on_first_change = nullptr;
     engine::UnitSystem = std::move(units);
     engine::set_unit_defaults();
@@ -51,10 +50,21 @@ SolvedCopy solve_copy(const engine::InletRecord& inlet, std::string units, std::
         copy.boxes.push_back({.text = box.text, .behind = copy.trace.size()});
         return platform::Answer::ok;
     };
-    engine::onlooker = {.trace = &copy.trace, .roundings = &copy.roundings};
+    engine::onlooker =
+        is_traced ? engine::Onlooker{.trace = &copy.trace, .roundings = &copy.roundings} : engine::Onlooker{};
     copy.solved = engine::check_and_solve();
-    copy.inlet = engine::open_inlet;
+    copy.inlet = std::move(engine::open_inlet);
     return copy;
+}
+
+}  // namespace
+
+SolvedCopy solve_copy(const engine::InletRecord& inlet, std::string units, std::string number_format) {
+    return solve(inlet, std::move(units), std::move(number_format), true);
+}
+
+SolvedCopy solve_untraced(const engine::InletRecord& inlet, std::string units, std::string number_format) {
+    return solve(inlet, std::move(units), std::move(number_format), false);
 }
 
 }  // namespace gullymark::calculation

@@ -6,7 +6,7 @@
 #include "engine/inlet_record.h"
 #include "engine/step.h"
 
-/// The command SOLVE on a copy of an inlet, with a trace.
+/// The command SOLVE on a copy of an inlet, with or without a trace.
 namespace gullymark::calculation {
 
 /// A box that the solve would show.
@@ -28,5 +28,8 @@ struct SolvedCopy {
 /// changes, DataSolved, the unit system with its constants, who looks on. No box is shown. What only comes from an earlier
 /// look at the inlets, the format of numbers, is taken as it is.
 SolvedCopy solve_copy(const engine::InletRecord& inlet, std::string units, std::string number_format);
+
+/// The same without trace and roundings, for who solves many.
+SolvedCopy solve_untraced(const engine::InletRecord& inlet, std::string units, std::string number_format);
 
 }  // namespace gullymark::calculation

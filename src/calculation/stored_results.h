@@ -21,4 +21,8 @@ bool has_results(const engine::InletRecord& inlet);
 SolvedCopy solve_like_stored(const engine::InletRecord& inlet, const std::string& units,
                              const std::string& number_format);
 
+/// The same without a trace, for who solves many.
+SolvedCopy solve_like_stored_untraced(const engine::InletRecord& inlet, const std::string& units,
+                                      const std::string& number_format);
+
 }  // namespace gullymark::calculation

@@ -1,11 +1,8 @@
 #include "review/doubt_rules.h"
 
-#include <cmath>
-
 #include "calculation/stored_results.h"
-#include "engine/unit_constants.h"
-#include "engine/units.h"
 #include "platform/number_text.h"
+#include "review/neighbor.h"
 #include "section/measures.h"
 
 namespace gullymark::review {
@@ -13,14 +10,6 @@ namespace gullymark::review {
 using engine::Column;
 
 namespace {
-
-/// A solve of the same inlet with another text in one column.
-calculation::SolvedCopy solve_with(const Survey& survey, Survey::Index index, Column column,
-                                   const std::string& text, const std::string& number_format) {
-    engine::InletRecord changed = survey.inlet(index);
-    changed.load(column, text);
-    return calculation::solve_copy(changed, survey.project().units, number_format);
-}
 
 void judge_shares(Survey& survey, Survey::Index index) {
     const auto& record = survey.inlet(index);
@@ -140,35 +129,6 @@ bool is_slot_in_sump(const engine::InletRecord& record) {
     return section::inlet_of(record) == section::Inlet::slotted && section::in_sump(record);
 }
 
-/// A depth in a sump is a spread times the slope of the pavement, as if the gutter fell no steeper.
-void judge_gutter_drop(Survey& survey, Survey::Index index) {
-    const auto& record = survey.inlet(index);
-    const auto kind = section::inlet_of(record);
-    if (!section::in_sump(record) || is_slot_in_sump(record) || kind == section::Inlet::ditch) {
-        return;
-    }
-    engine::set_depthFactor();
-    const auto factor = static_cast<double>(engine::unit_constants.depthFactor);
-    const auto gutter = section::gutter_in(record);
-    const double depth = number_or_zero(record, Column::CURBDEPTH);
-    const double omitted = gutter.W * (gutter.Sw - gutter.Sx) * factor;
-    for (const Column column : {Column::OPENSPREAD, Column::GUTTERSPREAD}) {
-        const double spread = number_or_zero(record, column);
-        const double rounding = 0.001 * (gutter.Sx * factor + 1);
-        if (spread > gutter.W && omitted > rounding &&
-            std::fabs(depth - spread * gutter.Sx * factor) <= rounding) {
-            survey.report(rules::gutter_drop_omitted, index,
-                          "Depth at the curb is " + told(record, Column::CURBDEPTH) +
-                              ", the spread times the slope of the pavement: it leaves out " +
-                              platform::format_number(omitted, "0.000") + ' ' +
-                              std::string(engine::unit_text(engine::Unit::depth)) +
-                              " that the gutter falls steeper.",
-                          "Add what the gutter falls.");
-            return;
-        }
-    }
-}
-
 void judge_standing_water(Survey& survey, Survey::Index index) {
     const auto& record = survey.inlet(index);
     const auto spread = number_of(record.text(Column::OPENSPREAD));
@@ -193,7 +153,6 @@ void judge_doubts(Survey& survey, Survey::Index index, const calculation::Solved
         judge_clogged_slot(survey, index, solved);
     }
     judge_standing_water(survey, index);
-    judge_gutter_drop(survey, index);
 }
 
 }  // namespace gullymark::review

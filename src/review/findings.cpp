@@ -7,8 +7,11 @@
 #include "review/doubt_rules.h"
 #include "review/flow_rules.h"
 #include "review/limit_rules.h"
+#include "review/rating_rules.h"
 #include "review/record_rules.h"
 #include "review/result_rules.h"
+#include "review/station_rules.h"
+#include "review/sump_depths.h"
 
 namespace gullymark::review {
 
@@ -26,14 +29,18 @@ std::optional<std::vector<Finding>> judge(const Project& project, const Limits& 
         if (!progress(index, survey.count())) {
             return std::nullopt;
         }
-        const auto solved = calculation::solve_like_stored(survey.inlet(index), project.units, number_format);
+        const auto solved =
+            calculation::solve_like_stored_untraced(survey.inlet(index), project.units, number_format);
         judge_results(survey, index, solved);
-        judge_record(survey, index);
+        judge_record(survey, index, solved);
         judge_flows(survey, index);
         judge_links(survey, index);
         judge_limits(survey, index);
+        judge_stations(survey, index);
         judge_doubts(survey, index, solved);
+        judge_ratings(survey, index, solved);
     }
+    judge_sump_depths(survey);
     judge_loops(survey);
     judge_balance(survey);
     return survey.take_findings();

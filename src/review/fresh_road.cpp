@@ -119,13 +119,13 @@ class Renewal {
     void renew(std::size_t index, const FlowTexts& texts) {
         const auto& stored = project_.inlets[index];
         if (texts.empty()) {
-            auto solved = calculation::solve_like_stored(stored, project_.units, number_format_);
+            auto solved = calculation::solve_like_stored_untraced(stored, project_.units, number_format_);
             if (!solved.solved || !calculation::differing_results(stored, solved.inlet).empty()) {
                 take(index, std::move(solved));
             }
             return;
         }
-        take(index, calculation::solve_copy(with_flow(stored, texts), project_.units, number_format_));
+        take(index, calculation::solve_untraced(with_flow(stored, texts), project_.units, number_format_));
     }
 
     /// The inlet when its flow fields have been gone through: the program fills those that are empty.

@@ -18,8 +18,8 @@ void judge_spread_of(Survey& survey, Survey::Index index, Column column) {
         return;
     }
     survey.report(rules::spread_beyond, index,
-                  std::string(engine::column_meaning(column)) + " is " + spread.spread->text + ", " +
-                      spread.excess + " beyond the allowable " + spread.allowable->text + ".",
+                  name_of(column) + " is " + spread.spread->text + ", " + spread.excess +
+                      " beyond the allowable " + spread.allowable->text + ".",
                   "Take a longer inlet, set one upstream, or make sure that the spread is accepted.");
 }
 
@@ -33,7 +33,7 @@ void judge_ceiling(Survey& survey, Survey::Index index) {
         return;
     }
     survey.report(rules::spread_at_ceiling, index,
-                  std::string(engine::column_meaning(column)) + " is " + told(record, column) +
+                  name_of(column) + " is " + told(record, column) +
                       ", the greatest that is searched with an allowable spread of " +
                       told(record, Column::ALLOWABLE_SPREAD) + ": the true one may be greater.",
                   "Do not rely on the results; bring less flow to the inlet.");

@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <array>
 
+#include "calculation/stored_results.h"
 #include "calculation/typeset.h"
 #include "engine/solve.h"
 #include "engine/units.h"
 #include "engine/words.h"
+#include "review/neighbor.h"
 #include "section/inputs.h"
 #include "section/measures.h"
 
@@ -29,15 +31,85 @@ bool counts_on_a_side(const engine::InletRecord& record, Column column) {
     });
 }
 
-bool is_a_number_that_counts(const engine::InletRecord& record, Column column) {
-    return engine::column_unit(column) != engine::Unit::text &&
-           (section::is_input(column, record) || counts_on_a_side(record, column) ||
-            std::ranges::find(other_numbers, column) != other_numbers.end());
+/// Asked by two solves with other numbers. An inlet that gives no results with any is taken to compute with it.
+bool is_solved_with(const Survey& survey, Survey::Index index, Column column,
+                    const std::string& number_format) {
+    const auto one = solve_with(survey, index, column, "1", number_format);
+    const auto other = solve_with(survey, index, column, "2.5", number_format);
+    return !calculation::has_results(one.inlet) || one.solved != other.solved ||
+           !calculation::differing_results(one.inlet, other.inlet).empty();
+}
+
+/// Where a blank counts as something the solver has filled it.
+bool is_no_number_that_counts(const Survey& survey, Survey::Index index, Column column,
+                              const calculation::SolvedCopy& solved) {
+    const auto& record = survey.inlet(index);
+    const auto& text = record.text(column);
+    if (engine::column_unit(column) == engine::Unit::text || number_of(text)) {
+        return false;
+    }
+    if (section::is_input(column, record)) {
+        return (!text.empty() || solved.inlet.text(column).empty()) &&
+               is_solved_with(survey, index, column, solved.number_format);
+    }
+    return !text.empty() && (counts_on_a_side(record, column) ||
+                             std::ranges::find(other_numbers, column) != other_numbers.end());
+}
+
+void judge_numbers(Survey& survey, Survey::Index index, const calculation::SolvedCopy& solved) {
+    const auto& record = survey.inlet(index);
+    for (const Column column : engine::all_columns) {
+        if (!is_no_number_that_counts(survey, index, column, solved)) {
+            continue;
+        }
+        const auto& text = record.text(column);
+        survey.report(rules::number_unreadable, index,
+                      name_of(column) + (text.empty() ? std::string(" is blank, and Solve computes with it.")
+                                                      : " is stored as " + calculation::shortened(text) +
+                                                            ", which is no number."),
+                      "Open the inlet and type the number anew.");
+    }
+}
+
+/// Columns of the inlet's data whose fields are emptied for a kind that they mean nothing to, and the flow that only a sump
+/// takes from its right side.
+constexpr std::array emptied_columns{
+    Column::PREINLET2,    Column::DISCHARGE2,  Column::CARRYOVER2,    Column::LONGSLOPE,  Column::PAVXSLOPE,
+    Column::INLETXSLOPE,  Column::INLETLENGTH, Column::OPENLEN_GRATE, Column::GRATETYPE,  Column::THROATYPE,
+    Column::SLOTWIDTH,    Column::GRATEAREA,   Column::GRATEPERI,     Column::GRATEWIDTH, Column::THROATANGLE,
+    Column::HEIGHTOFCURB, Column::RSCOPERATIO, Column::LSCOPERATIO,   Column::MANNINGS,   Column::GUTWIDTH,
+    Column::GUTXSLOPE,    Column::LOCDEPWIDTH};
+
+bool means_something(const engine::InletRecord& record, Column column) {
+    const bool counts_in_sump =
+        column == Column::PREINLET2 || column == Column::DISCHARGE2 || column == Column::CARRYOVER2;
+    return (counts_in_sump && section::in_sump(record)) || section::is_input(column, record);
+}
+
+void judge_texts(Survey& survey, Survey::Index index) {
+    const auto& record = survey.inlet(index);
+    if (section::inlet_of(record) == section::Inlet::unknown) {
+        return;
+    }
+    std::string list;
+    for (const Column column : emptied_columns) {
+        const auto& text = record.text(column);
+        if (!text.empty() && number_of(text) != 0.0 && !means_something(record, column)) {
+            list += (list.empty() ? "" : ", ") + name_of(column) + ' ' + told(record, column);
+        }
+    }
+    if (!list.empty()) {
+        survey.report(
+            rules::text_without_effect, index,
+            "Stored, and without effect for this type and location: " + list + ".",
+            "Check type and location; where they are right, open the inlet and go through its pages, "
+            "which empties what does not apply.");
+    }
 }
 
 }  // namespace
 
-void judge_record(Survey& survey, Survey::Index index) {
+void judge_record(Survey& survey, Survey::Index index, const calculation::SolvedCopy& solved) {
     const auto& record = survey.inlet(index);
     if (section::inlet_of(record) == section::Inlet::unknown) {
         survey.report(
@@ -52,15 +124,8 @@ void judge_record(Survey& survey, Survey::Index index) {
                           ", which is none of the list.",
                       "Open the inlet and pick its location from the list.");
     }
-    for (const Column column : engine::all_columns) {
-        const auto& text = record.text(column);
-        if (!text.empty() && !number_of(text) && is_a_number_that_counts(record, column)) {
-            survey.report(rules::number_unreadable, index,
-                          std::string(engine::column_meaning(column)) + " is stored as " +
-                              calculation::shortened(text) + ", which is no number.",
-                          "Open the inlet and type the number anew.");
-        }
-    }
+    judge_numbers(survey, index, solved);
+    judge_texts(survey, index);
     const auto& number = record.text(Column::INLET_NUMBER);
     if (const auto& same = survey.links().with_number(number); same.size() > 1 && same.front() == index) {
         survey.report(rules::number_not_unique, index,

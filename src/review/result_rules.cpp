@@ -34,8 +34,8 @@ void judge_results(Survey& survey, Survey::Index index, const calculation::Solve
     }
     for (const Column column : differing) {
         survey.report(rules::result_differs, index,
-                      std::string(engine::column_meaning(column)) + " is stored as " + told(record, column) +
-                          " and comes out as " + told(solved.inlet, column) + ".",
+                      name_of(column) + " is stored as " + told(record, column) + " and comes out as " +
+                          told(solved.inlet, column) + ".",
                       solve_it);
     }
 }

@@ -32,7 +32,7 @@ inline constexpr Rule bypass_untaken{"bypass-untaken", Severity::wrong, "No inle
 inline constexpr Rule flow_vanishes{"flow-vanishes", Severity::wrong, "Flow comes to an inlet that stores neither intercepted flow nor bypass."};
 inline constexpr Rule type_unknown{"type-unknown", Severity::wrong, "The type of an inlet is none of the list."};
 inline constexpr Rule location_unknown{"location-unknown", Severity::wrong, "The location of an inlet is none of the list."};
-inline constexpr Rule number_unreadable{"number-unreadable", Severity::wrong, "A text that is computed with is no number."};
+inline constexpr Rule number_unreadable{"number-unreadable", Severity::wrong, "A text that is computed with is no number, or blank."};
 inline constexpr Rule number_not_unique{"number-not-unique", Severity::wrong, "Several inlets have one number."};
 inline constexpr Rule balance_open{"balance-open", Severity::wrong, "Runoff in is not intercepted flow and bypass out, beyond what rounding explains."};
 inline constexpr Rule spread_beyond{"spread-beyond", Severity::beyond, "A spread is greater than the allowable spread."};
@@ -49,7 +49,15 @@ inline constexpr Rule top_not_falling{"top-not-falling", Severity::doubtful, "An
 inline constexpr Rule slot_falls{"slot-falls", Severity::doubtful, "The spread at a slot in a sump falls as the flow grows."};
 inline constexpr Rule water_without_spread{"water-without-spread", Severity::doubtful, "Water stands at a combination in a sump, and its spread is 0."};
 inline constexpr Rule slot_falls_clogged{"slot-falls-clogged", Severity::doubtful, "The spread at a slot in a sump falls as more of it is clogged."};
-inline constexpr Rule gutter_drop_omitted{"gutter-drop-omitted", Severity::doubtful, "The depth at the curb of a sump leaves out the drop of the gutter."};
+inline constexpr Rule gutter_drop_omitted{"gutter-drop-omitted", Severity::doubtful, "The depth at the curb of sumps leaves out the drop of the gutter; told once."};
+inline constexpr Rule text_without_effect{"text-without-effect", Severity::doubtful, "Columns that mean nothing to the kind of an inlet hold texts."};
+inline constexpr Rule direction_against_stations{"direction-against-stations", Severity::doubtful, "The previous inlet does not stand where the flow direction says that the flow comes from."};
+inline constexpr Rule bypass_turns_back{"bypass-turns-back", Severity::doubtful, "By the stations the bypass turns back at an inlet on a grade."};
+inline constexpr Rule sump_fed_from_one_side{"sump-fed-from-one-side", Severity::doubtful, "Both previous inlets of a sump stand on one side of it."};
+inline constexpr Rule length_between_rows{"length-between-rows", Severity::doubtful, "A grate intercepts less than a shorter and a longer one: its length lies between the rows of its rating."};
+inline constexpr Rule clogging_between_rows{"clogging-between-rows", Severity::doubtful, "The rating of an inlet has no row for its clogged share."};
+inline constexpr Rule rating_falls{"rating-falls", Severity::doubtful, "The depth at a rated inlet falls as the flow grows."};
+inline constexpr Rule depth_negative{"depth-negative", Severity::doubtful, "A depth is negative."};
 // clang-format on
 
 }  // namespace rules

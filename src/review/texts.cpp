@@ -33,13 +33,17 @@ bool is_same_number(std::string_view one, std::string_view other) {
     return one == other || (number_of(one) && number_of(one) == number_of(other));
 }
 
+std::string name_of(Column column) {
+    const auto meaning = engine::column_meaning(column);
+    return std::string(meaning.substr(0, meaning.find_first_of(":;")));
+}
+
 std::string told(const engine::InletRecord& record, Column column) {
     const auto& text = record.text(column);
     return text.empty() ? "blank" : with_unit(calculation::shortened(text), engine::column_unit(column));
 }
 
-std::string listed(const Project& project, const std::vector<std::size_t>& indices) {
-    constexpr std::size_t most = 8;
+std::string listed(const Project& project, const std::vector<std::size_t>& indices, std::size_t most) {
     std::string list;
     for (std::size_t i = 0; i < std::min(indices.size(), most); ++i) {
         list += (i == 0 ? "" : ", ") + told(project.inlets[indices[i]], Column::INLET_NUMBER);

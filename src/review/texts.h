@@ -20,10 +20,12 @@ double number_or_zero(const engine::InletRecord& record, engine::Column column);
 /// True for one text, and for two that are one number.
 bool is_same_number(std::string_view one, std::string_view other);
 
+/// What a column means, without what is told of how it comes about.
+std::string name_of(engine::Column column);
 /// The text of a column with its unit, "blank" for an empty one.
 std::string told(const engine::InletRecord& record, engine::Column column);
-/// The numbers of the first inlets of a list, and how many more there are: "L1, L2 and 7 more".
-std::string listed(const Project& project, const std::vector<std::size_t>& indices);
+/// The numbers of the first inlets of a list, at most so many, and how many more there are: "L1, L2 and 7 more".
+std::string listed(const Project& project, const std::vector<std::size_t>& indices, std::size_t most = 8);
 /// A flow that no column holds, with its unit.
 std::string told_flow(double flow);
 

@@ -108,6 +108,19 @@ TEST_F(Doubts, ADepthThatLeavesOutTheDropOfTheGutterIsTold) {
     EXPECT_EQ(told_by("gutter-drop-omitted"), Told{});
 }
 
+/// Nearly every sump is so: one finding names them all.
+TEST_F(Doubts, DepthsThatLeaveOutTheDropOfTheGutterAreToldOnce) {
+    change(sump, {{Column::GUTXSLOPE, "0.0308"}});
+    solve(sump);
+    project.inlets.push_back(project.inlets[sump]);
+    change(sump + 1, {{Column::INLET_NUMBER, "S2"}, {Column::GUTXSLOPE, "0.0408"}});
+    solve(sump + 1);
+    EXPECT_EQ(
+        told_by("gutter-drop-omitted"),
+        Told{"At 2 sumps the depth at the curb is the spread times the slope of the pavement and leaves "
+             "out what the gutter falls steeper, up to 0.480 in at S2: S1, S2."});
+}
+
 TEST_F(Doubts, WaterAtACombinationWithoutASpreadIsTold) {
     change(sump, {{Column::INLET_TYPE, "Combination Curb and Grate Inlet"},
                   {Column::OPENSPREAD, "0.000"},

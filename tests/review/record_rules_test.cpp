@@ -34,6 +34,65 @@ TEST_F(Records, ATextThatTheKindDoesNotUseMayBeAnything) {
     EXPECT_EQ(told_by("number-unreadable"), Told{});
 }
 
+TEST_F(Records, ABlankThatSolveComputesWithIsTold) {
+    change(0, {{Column::LONGSLOPE, ""}});
+    EXPECT_EQ(told_by("number-unreadable"),
+              Told{"L1: Longitudinal slope of the gutter or ditch is blank, and Solve computes with it."});
+    change(0, {{Column::LONGSLOPE, "0.0300"}});
+    EXPECT_EQ(told_by("number-unreadable"), Told{});
+}
+
+/// Solve fills both before it computes.
+TEST_F(Records, ABlankThatSolveFillsIsNotTold) {
+    change(0, {{Column::INLETXSLOPE, ""}, {Column::GRATEPERCLOG, ""}});
+    EXPECT_EQ(told_by("number-unreadable"), Told{});
+    change(0, {{Column::INLETXSLOPE, "steep"}});
+    EXPECT_EQ(told_by("number-unreadable").size(), 1U);
+}
+
+TEST_F(Records, ABlankThatAnotherTypeComputesWithIsNotTold) {
+    change(0, {{Column::GRATEWIDTH, ""}});
+    EXPECT_EQ(told_by("number-unreadable"), Told{});
+    change(0, {{Column::INLET_TYPE, "Grate Inlet"}});
+    EXPECT_EQ(told_by("number-unreadable").size(), 1U);
+}
+
+/// A standard that is solved by its depth alone has "-" for the dimensions that nobody computes with.
+TEST_F(Records, ADashThatAStandardDoesNotComputeWithIsNotTold) {
+    change(0, {{Column::INLET_TYPE, "Grate Inlet in a Ditch"},
+               {Column::INLET_SUBTYPE, "X - DI Grate"},
+               {Column::LSCOPERATIO, "3.000"},
+               {Column::RSCOPERATIO, "3.000"},
+               {Column::INLETLENGTH, "-"},
+               {Column::GRATEWIDTH, "-"}});
+    EXPECT_EQ(told_by("number-unreadable"), Told{});
+    change(0, {{Column::INLET_SUBTYPE, "X - DI"}});
+    EXPECT_EQ(told_by("number-unreadable"),
+              (Told{"L1: Length of the opening or grate is stored as -, which is no number.",
+                    "L1: Width of the grate is stored as -, which is no number."}));
+}
+
+TEST_F(Records, TextsThatTheKindDoesNotUseAreToldTogether) {
+    change(0,
+           {{Column::SLOTWIDTH, "4.00"}, {Column::GRATETYPE, "Reticuline"}, {Column::DISCHARGE2, "5.400"}});
+    EXPECT_EQ(told_by("text-without-effect"),
+              Told{"L1: Stored, and without effect for this type and location: Discharge of the right side "
+                   "5.400 cfs, Type of the grate Reticuline, Width "
+                   "of the slot 4.00 in."});
+    change(0, {{Column::SLOTWIDTH, "0.00"}, {Column::GRATETYPE, ""}, {Column::DISCHARGE2, "0.000"}});
+    EXPECT_EQ(told_by("text-without-effect"), Told{});
+}
+
+TEST_F(Records, TheSameTextsCountForAnotherKind) {
+    change(sump, {{Column::SLOTWIDTH, "4.00"}});
+    EXPECT_EQ(told_by("text-without-effect").size(), 1U);
+    change(sump, {{Column::INLET_TYPE, "Slotted Inlet"},
+                  {Column::HEIGHTOFCURB, ""},
+                  {Column::THROATYPE, ""},
+                  {Column::THROATANGLE, ""}});
+    EXPECT_EQ(told_by("text-without-effect"), Told{});
+}
+
 TEST_F(Records, RunoffBehindATypedDischargeDoesNotCount) {
     change(0, {{Column::RUNOFF_AREA, "abc"}});
     EXPECT_EQ(told_by("number-unreadable").size(), 1U);

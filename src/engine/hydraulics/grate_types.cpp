@@ -68,6 +68,10 @@ std::vector<std::string_view> grate_names() {
     return names;
 }
 
+double short_grate_length() {
+    return by_units(short_grate, short_grate * meters_per_foot);
+}
+
 void read_grate_length(int number, FrontalFlow& frontal) {
     frontal.length = Reading(Column::INLETLENGTH);
     if (!is_english()) {

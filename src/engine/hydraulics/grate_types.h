@@ -31,6 +31,10 @@ const GrateType* grate_type(std::string_view text);
 /// The names of all types in the order of a list to pick from; those of the unit system in force.
 std::vector<std::string_view> grate_names();
 
+/// The length, in ft or m, between those of the short grates and those of the long ones: a grate of exactly this length
+/// follows neither fit and takes no frontal flow.
+double short_grate_length();
+
 /// The part of a sheet that finds the frontal efficiency Rf.
 struct FrontalFlow {
     Reading length;  // INLETLENGTH

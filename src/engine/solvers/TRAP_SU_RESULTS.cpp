@@ -33,6 +33,9 @@ struct Sheet {
 
 Sheet sheet;
 
+constexpr const char* y_weld = "Y-Weld";
+constexpr const char* y_di_grate = "Y-DI Gr";
+
 /// One piece of a rating: d = slope Q + constant for all discharges below `below`.
 struct Piece {
     Real below;
@@ -66,14 +69,14 @@ Taken depth_on(const std::array<Piece, Count>& rating, const Quantity& Q) {
 
 /// The rated depth; 0 for any clogging but 0 and 50 percent.
 Taken rated_depth(const Quantity& C, const Quantity& Q) {
-    if (decides(C == 0.0)) {
+    if (decides(C == rated_clogging[0])) {
         return decides(Q < 1.0) ? Taken(0.255 + 0.0741 * natural_logarithm(Q)) : depth_on(clean_rating, Q);
     }
-    return decides(C == 50.0) ? depth_on(half_clogged_rating, Q) : Taken(formula::Named(0.0));
+    return decides(C == rated_clogging[1]) ? depth_on(half_clogged_rating, Q) : Taken(formula::Named(0.0));
 }
 
 bool is_rated() {
-    return strict_holds(3, [] { return says(INLET_SUBTYPE, "Y-Weld") || says(INLET_SUBTYPE, "Y-DI Gr"); });
+    return strict_holds(3, [] { return says(INLET_SUBTYPE, y_weld) || says(INLET_SUBTYPE, y_di_grate); });
 }
 
 void use_rating() {
@@ -108,6 +111,10 @@ void use_dimensions() {
 }
 
 }  // namespace
+
+bool has_rating(std::string_view standard) {
+    return standard == y_weld || standard == y_di_grate;
+}
 
 void compute_results() {
     set_gravity();

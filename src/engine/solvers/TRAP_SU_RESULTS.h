@@ -1,5 +1,8 @@
 #pragma once
 
+#include <array>
+#include <string_view>
+
 /// Grate in a ditch, in a sump.
 ///
 /// Two standard inlets, "Y-Weld" and "Y-DI Gr", have a measured rating, a depth as a function of the
@@ -23,6 +26,12 @@
 /// Source: FHWA, HEC-22, third edition, 4.4.5.1, fourth edition, 7.3.1; the ratings are this system's own.
 /// Equation by equation, with what departs: doc/sources.md#trap-su
 namespace gullymark::engine::TRAP_SU_RESULTS {
+
+/// The clogged shares, in percent, that a rating has a curve for. With any other the rated depth is 0.
+inline constexpr std::array<double, 2> rated_clogging{0.0, 50.0};
+
+/// True for a standard inlet that has a rating.
+bool has_rating(std::string_view standard);
 
 /// Solves the open inlet, as told above.
 void compute_results();
