@@ -42,18 +42,6 @@ Sheet sheet_of_open_inlet() {
             section::draw_section(engine::open_inlet, section::Water::solved)};
 }
 
-TEST(CalculationPages, NoLineIsCutAndNoHeadingIsPartedFromItsFirstLine) {
-    using testing::ElementsAre;
-    const BlockSize line{10.0, false};
-    const BlockSize heading{5.0, true};
-    EXPECT_THAT(first_blocks({line, line, line}, 30.0), ElementsAre(0));
-    EXPECT_THAT(first_blocks({line, line, line}, 29.0), ElementsAre(0, 2));
-    EXPECT_THAT(first_blocks({line, line, heading, line}, 34.0), ElementsAre(0, 2));
-    EXPECT_THAT(first_blocks({line, heading, heading, line, line}, 29.0), ElementsAre(0, 1, 4));
-    EXPECT_THAT(first_blocks({line, {50.0, false}, line}, 30.0), ElementsAre(0, 1, 2));
-    EXPECT_THAT(first_blocks({heading}, 30.0), ElementsAre(0));
-}
-
 TEST(CalculationPages, TextsOfAnyLengthAndWithMarksOfTheToolkitStandOnThem) {
     const auto table = cases::read_table(std::string(GULLYMARK_TEST_DIR) + "/cases/solves_unreadable.tsv");
     for (const auto& row : table.rows) {
