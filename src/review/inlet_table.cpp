@@ -20,7 +20,7 @@ struct Stored {
     bool and_fresh = false;
 };
 
-constexpr std::array columns{
+constexpr std::array stored_columns{
     Stored{"Inlet", Column::INLET_NUMBER},
     Stored{"Roadway", Column::ROADWAY},
     Stored{"Station", Column::STATION},
@@ -70,7 +70,7 @@ std::string unit_of(Column column) {
 
 std::vector<TableHeading> make_headings() {
     std::vector<TableHeading> headings;
-    for (const auto& [heading, column, and_fresh] : columns) {
+    for (const auto& [heading, column, and_fresh] : stored_columns) {
         const bool is_number = engine::column_unit(column) != engine::Unit::text;
         headings.push_back({heading, unit_of(column), is_number});
         if (and_fresh) {
@@ -84,7 +84,7 @@ std::vector<TableHeading> make_headings() {
 std::vector<std::string> make_row(const engine::InletRecord& stored, const engine::InletRecord& fresh,
                                   const std::string& rules) {
     std::vector<std::string> row;
-    for (const auto& [heading, column, and_fresh] : columns) {
+    for (const auto& [heading, column, and_fresh] : stored_columns) {
         row.push_back(stored.text(column));
         if (and_fresh) {
             row.push_back(fresh.text(column));
@@ -119,7 +119,7 @@ bool is_computed(std::string_view text) {
 }
 
 std::string csv_cell(const std::string& text) {
-    const std::string shown = is_computed(text) ? '\'' + text : text;
+    std::string shown = is_computed(text) ? '\'' + text : text;
     if (shown.find_first_of("\",\r\n") == std::string::npos) {
         return shown;
     }

@@ -108,6 +108,52 @@ other_command_lines_are_refused() {
   refused "there is no place for the argument " ""
   refused "there is no place for the argument --check" --check "$work/road/road.gmk" --check "$work/road/road.gmk"
   refused "there is no place for the argument --fix" --check "$work/road/road.gmk" --fix
+  refused "--pdf needs a file to write" --pdf
+  refused "the file of the project is missing" --csv "$work/table.csv"
+  refused "--check with a file is missing" --csv - "$work/road/road.gmk" --json
+  refused "there is no place for the argument --pdf" --csv - "$work/road/road.gmk" --pdf -
+  refused "there is no place for the argument --check" --pdf - "$work/road/road.gmk" --check "$work/road/road.gmk"
+}
+
+# The table has a line for its headings and one for each inlet; a line break within quotes begins none.
+a_table_is_written() {
+  told 1 --csv - "$work/road/road.gmk"
+  cp "$work/out" "$work/table"
+  told 1 --csv "$work/table.csv" "$work/road/road.gmk"
+  [ ! -s "$work/out" ] || fail "a table on standard output too"
+  cmp "$work/table" "$work/table.csv" || fail "another table in a file"
+  perl -ne '
+    $text .= $_;
+    END {
+        $text =~ s/"(?:[^"]|"")*"/quoted/g;
+        my @lines = split /\r\n/, $text;
+        my $commas = () = $lines[0] =~ /,/g;
+        die "no heading with its unit" if $lines[0] !~ /^Inlet,.*,Bypass \(cms\),/;
+        die "not 3 lines" if @lines != 3;
+        (() = $_ =~ /,/g) == $commas or die "other columns" for @lines;
+    }' "$work/table.csv" 2>"$work/err" || fail "no table"
+  told 0 --csv - "$work/road/empty.gmk"
+}
+
+a_book_is_written() {
+  told 1 --pdf "$work/book.pdf" "$work/road/road.gmk"
+  [ "$(wc -l <"$work/err")" = 1 ] || fail "more than the counts are told of a book"
+  [ "$(head -c 5 "$work/book.pdf")" = %PDF- ] || fail "no book"
+  [ "$(LC_ALL=C grep -ac '^/Type /Page$' "$work/book.pdf")" -ge 4 ] || fail "fewer than four pages for two inlets"
+  told 0 --pdf "$work/book.pdf" "$work/road/empty.gmk"
+  [ "$(LC_ALL=C grep -ac '^/Type /Page$' "$work/book.pdf")" = 1 ] || fail "the book of a project without inlets was not put in its place"
+}
+
+# A project is never written over, by whatever name.
+no_project_is_written_over() {
+  ln -s road/road.gmk "$work/link.csv"
+  for out in "$work/road/road.gmk" "$work/link.csv" "$work/road/empty.gmk"; do
+    told 2 --csv "$out" "$work/road/road.gmk"
+    told 2 --pdf "$out" "$work/road/road.gmk"
+  done
+  told 2 --csv "$work/nowhere/table.csv" "$work/road/road.gmk"
+  told 2 --csv "$work/never.csv" "$work/road/missing.gmk"
+  [ ! -e "$work/never.csv" ] || fail "a file is written of a project that is not there"
 }
 
 a_window_needs_a_display() {
@@ -154,14 +200,17 @@ old_releases_are_read() {
 }
 
 a_failed_write_is_a_failure() {
-  timeout 5 "$program" --check "$work/road/road.gmk" >/dev/full 2>"$work/err"
-  [ $? = 2 ] || fail "a full disk is not told"
-  [ "$(last_word)" = "gullymark-review: the findings cannot be written to standard output" ] || fail "a full disk is told otherwise"
+  for command in --check "--csv -" "--pdf -"; do
+    # shellcheck disable=SC2086
+    timeout 5 "$program" $command "$work/road/road.gmk" >/dev/full 2>"$work/err"
+    [ $? = 2 ] || fail "a full disk is not told"
+    [ "$(last_word)" = "gullymark-review: nothing more can be written to standard output" ] || fail "a full disk is told otherwise"
+  done
 }
 
 help_and_version_are_told() {
   told 0 --help
-  for option in --check --bypass-limit --json --help --version; do
+  for option in --check --pdf --csv --bypass-limit --json --help --version; do
     grep -q -- "^  $option " "$work/out" || fail "the help does not tell $option"
   done
   told 0 --version
@@ -177,6 +226,9 @@ findings_are_lines
 json_tells_the_same
 limits_are_numbers
 other_command_lines_are_refused
+a_table_is_written
+a_book_is_written
+no_project_is_written_over
 a_window_needs_a_display
 a_failed_write_is_a_failure
 help_and_version_are_told

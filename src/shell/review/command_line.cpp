@@ -37,11 +37,24 @@ std::string read_limit(const std::string& text) {
     return text;
 }
 
+/// Throws Failure for options without their command.
+void refuse_what_lacks(const CommandLine& line, bool has_file, bool has_limit) {
+    using Task = CommandLine::Task;
+    if ((line.as_json && line.task != Task::check) || (has_limit && line.task == Task::window)) {
+        throw Failure("--check with a file is missing");
+    }
+    if ((line.task == Task::pdf || line.task == Task::csv) && !has_file) {
+        throw Failure("the file of the project is missing");
+    }
+}
+
 }  // namespace
 
 const char* const help_text =
     R"(Usage: gullymark-review [FILE]
        gullymark-review --check FILE [--bypass-limit Q] [--json]
+       gullymark-review --pdf OUT FILE [--bypass-limit Q]
+       gullymark-review --csv OUT FILE [--bypass-limit Q]
        gullymark-review --help | --version
 
 Reads a project, solves its inlets anew and tells what is wrong, beyond what is
@@ -52,6 +65,10 @@ allowed, or doubtful. The file is only read.
   --check FILE        tell the findings of this project on standard output,
                       one on a line: severity, rule, inlet, text and advice,
                       with a tab between them; their counts on standard error
+  --pdf OUT FILE      write a book of this project: findings, balance, the road,
+                      the inlets, and the worked calculation of each; OUT is
+                      replaced, unless it is a project, and - is standard output
+  --csv OUT FILE      write the table of inlets as comma-separated values
   --bypass-limit Q    a bypass that no inlet takes is a finding above Q, in the
                       unit of flow of the project (0)
   --json              the findings as a JSON array
@@ -59,14 +76,14 @@ allowed, or doubtful. The file is only read.
   --version           tell the version
 
 Exit status: 0 nothing found, or the window was closed, 1 findings, 2 the
-project could not be read, there is no display for a window, or the command
-line is not one of these.
+project could not be read, OUT not written, there is no display for a window,
+or the command line is not one of these.
 )";
 
 CommandLine read_command_line(std::span<char* const> arguments) {
     CommandLine line;
     Arguments left(arguments);
-    bool only_for_check = false;
+    bool has_limit = false;
     bool has_file = false;
     while (!left.at_end()) {
         const std::string argument = left.take();
@@ -76,16 +93,19 @@ CommandLine read_command_line(std::span<char* const> arguments) {
         if (argument == "--version") {
             return {.task = CommandLine::Task::version};
         }
-        if (argument == "--check" && !has_file) {
-            line.file = left.take_value(argument, "a file");
+        const bool is_first = line.task == CommandLine::Task::window;
+        if (argument == "--check" && is_first && !has_file) {
             line.task = CommandLine::Task::check;
+            line.file = left.take_value(argument, "a file");
             has_file = true;
+        } else if ((argument == "--pdf" || argument == "--csv") && is_first) {
+            line.task = argument == "--pdf" ? CommandLine::Task::pdf : CommandLine::Task::csv;
+            line.out = left.take_value(argument, "a file to write");
         } else if (argument == "--bypass-limit") {
             line.bypass_limit = read_limit(left.take_value(argument, "a flow"));
-            only_for_check = true;
+            has_limit = true;
         } else if (argument == "--json") {
             line.as_json = true;
-            only_for_check = true;
         } else if (!has_file && !argument.empty() && argument.front() != '-') {
             line.file = argument;
             has_file = true;
@@ -93,9 +113,7 @@ CommandLine read_command_line(std::span<char* const> arguments) {
             throw Failure("there is no place for the argument " + argument);
         }
     }
-    if (line.task == CommandLine::Task::window && only_for_check) {
-        throw Failure("--check with a file is missing");
-    }
+    refuse_what_lacks(line, has_file, has_limit);
     return line;
 }
 

@@ -7,10 +7,11 @@ namespace gullymark::review {
 
 /// What the command line asks for.
 struct CommandLine {
-    enum class Task : unsigned char { help, version, check, window };
+    enum class Task : unsigned char { help, version, check, pdf, csv, window };
 
     Task task = Task::window;
     std::string file;  // of a window it may be empty
+    std::string out;   // of a PDF book and of a table; "-" is the standard output
     std::string bypass_limit = "0";
     bool as_json = false;
 };

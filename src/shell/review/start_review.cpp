@@ -11,11 +11,13 @@
 #include <QTimer>
 
 #include "platform/files.h"
+#include "platform/outside.h"
 #include "shell/binding/qt_text.h"
 #include "shell/binding/readable_palette.h"
 #include "shell/binding/small_screen.h"
 #include "shell/binding/turn.h"
 #include "shell/desktop.h"
+#include "shell/review/book.h"
 #include "shell/review/review_window.h"
 
 /// The toolkit's macro works outside of every namespace only.
@@ -35,6 +37,9 @@ void tell_missing_display(QtMsgType type, const QMessageLogContext& /*context*/,
         std::_Exit(failed);
     }
 }
+
+/// What the toolkit says of the desktop is nothing to a script.
+void keep_silent(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& /*text*/) {}
 
 }  // namespace
 
@@ -67,6 +72,17 @@ void run_review(int argc, char** argv, const std::string& file) {
         QTimer::singleShot(0, &window, [&window, &file] { handle([&window, &file] { window.open(file); }); });
     }
     QApplication::exec();
+}
+
+std::string make_book(int argc, char** argv, const review::Reviewed& reviewed, const std::string& file) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(keep_silent);
+    argc = argc == 0 ? 0 : 1;
+    const QGuiApplication application(argc, argv);
+    static_cast<void>(std::setlocale(LC_NUMERIC, "C"));
+    const QByteArray book =
+        book_pdf({.reviewed = reviewed, .file = to_qt(file), .today = platform::today()}).value();
+    return {book.constData(), static_cast<std::size_t>(book.size())};
 }
 
 }  // namespace gullymark::shell

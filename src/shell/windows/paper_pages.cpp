@@ -59,7 +59,7 @@ std::vector<std::size_t> first_blocks(const std::vector<BlockSize>& blocks, qrea
         }
         if (used > 0.0 && (blocks[i].begins_page || used + needed > room)) {
             pages.push_back(i);
-            used = 0.0;
+            used = blocks[i].head;
         }
         used += blocks[i].height;
     }
@@ -86,13 +86,22 @@ void PaperPages::add_picture(qreal inches, std::function<void(QPainter&, const Q
 
 void PaperPages::add(Block block) {
     block.begins_page = std::exchange(begins_page_, false);
+    block.head = head_;
     blocks_.push_back(std::move(block));
+}
+
+void PaperPages::begin_table(const QString& head) {
+    head_ = no_head;
+    add(head);
+    blocks_.back().keeps_next = true;
+    head_ = blocks_.size() - 1;
 }
 
 std::vector<std::size_t> PaperPages::first_of_pages() const {
     std::vector<BlockSize> sizes;
     for (const Block& block : blocks_) {
-        sizes.push_back({block.height, block.keeps_next, block.begins_page});
+        const qreal head = block.head == no_head ? 0.0 : blocks_[block.head].height;
+        sizes.push_back({block.height, block.keeps_next, block.begins_page, head});
     }
     return first_blocks(sizes, page_size(device_).height() - foot_inches * device_.logicalDpiY());
 }
@@ -114,21 +123,27 @@ bool PaperPages::paint(QPainter& painter, const std::function<PageFoot(int page,
 }
 
 void PaperPages::paint_blocks(QPainter& painter, std::size_t from, std::size_t end) const {
-    QAbstractTextDocumentLayout::PaintContext context;
-    context.palette = paper();
     painter.save();
+    if (blocks_[from].head != no_head) {
+        paint_block(painter, blocks_[blocks_[from].head]);
+    }
     for (std::size_t i = from; i < end; ++i) {
-        const Block& block = blocks_[i];
-        if (block.text) {
-            painter.translate(0.0, block.gap);
-            block.text->documentLayout()->draw(&painter, context);
-        } else {
-            painter.setFont(page_font(picture_points));
-            block.picture(painter, QRectF(QPointF(), QSizeF(page_size(device_).width(), block.height)));
-        }
-        painter.translate(0.0, block.height - block.gap);
+        paint_block(painter, blocks_[i]);
     }
     painter.restore();
+}
+
+void PaperPages::paint_block(QPainter& painter, const Block& block) const {
+    QAbstractTextDocumentLayout::PaintContext context;
+    context.palette = paper();
+    if (block.text) {
+        painter.translate(0.0, block.gap);
+        block.text->documentLayout()->draw(&painter, context);
+    } else {
+        painter.setFont(page_font(picture_points));
+        block.picture(painter, QRectF(QPointF(), QSizeF(page_size(device_).width(), block.height)));
+    }
+    painter.translate(0.0, block.height - block.gap);
 }
 
 void PaperPages::paint_foot(QPainter& painter, const PageFoot& foot) const {

@@ -19,6 +19,7 @@ struct BlockSize {
     qreal height = 0.0;
     bool keeps_next = false;
     bool begins_page = false;
+    qreal head = 0.0;  // of the table it belongs to, which stands again above it at the top of a page
 };
 
 /// The first block of each page, for pages with that much room; one that is higher than a page has a page of its own.
@@ -44,6 +45,9 @@ class PaperPages {
     void add_picture(qreal inches, std::function<void(QPainter&, const QRectF&)> paint);
     /// The next block begins a page.
     void begin_page() { begins_page_ = true; }
+    /// The head of a table: it stands above the next blocks, on each of their pages.
+    void begin_table(const QString& head);
+    void end_table() { head_ = no_head; }
 
     [[nodiscard]] int count() const;
 
@@ -52,6 +56,8 @@ class PaperPages {
     bool paint(QPainter& painter, const std::function<PageFoot(int page, int count)>& foot) const;
 
   private:
+    static constexpr std::size_t no_head = static_cast<std::size_t>(-1);
+
     struct Block {
         std::unique_ptr<QTextDocument> text;  // null for a picture
         std::function<void(QPainter&, const QRectF&)> picture;
@@ -59,16 +65,19 @@ class PaperPages {
         qreal height = 0.0;  // with the gap
         bool keeps_next = false;
         bool begins_page = false;
+        std::size_t head = no_head;  // the block that stands again above it at the top of a page
     };
 
     void add(Block block);
     [[nodiscard]] std::vector<std::size_t> first_of_pages() const;
     void paint_blocks(QPainter& painter, std::size_t from, std::size_t end) const;
+    void paint_block(QPainter& painter, const Block& block) const;
     void paint_foot(QPainter& painter, const PageFoot& foot) const;
 
     QPagedPaintDevice& device_;
     std::vector<Block> blocks_;
     bool begins_page_ = false;
+    std::size_t head_ = no_head;
 };
 
 /// A Letter page with its margins.

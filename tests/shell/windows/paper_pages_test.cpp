@@ -28,5 +28,13 @@ TEST(PaperPages, WhatBeginsAPageStandsOnANewOne) {
     EXPECT_THAT(first_blocks({line, chapter, line, chapter, line}, 100.0), ElementsAre(0, 1, 3));
 }
 
+TEST(PaperPages, TheHeadOfATableTakesItsRoomOnEachPage) {
+    using testing::ElementsAre;
+    const BlockSize head{5.0, true};
+    const BlockSize row{.height = 10.0, .head = 5.0};
+    EXPECT_THAT(first_blocks({head, row, row, row, row, row}, 25.0), ElementsAre(0, 3, 5));
+    EXPECT_THAT(first_blocks({head, row, row, row, row, row}, 24.0), ElementsAre(0, 2, 3, 4, 5));
+}
+
 }  // namespace
 }  // namespace gullymark::shell
