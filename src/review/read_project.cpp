@@ -8,6 +8,7 @@
 #include "platform/all_rows.h"
 #include "platform/database.h"
 #include "platform/failure.h"
+#include "platform/number_text.h"
 
 namespace gullymark::review {
 namespace {
@@ -53,7 +54,15 @@ void read_details(const Connection& connection, Project& project) {
     project.units = units.value_or("");
 }
 
+/// A record is large: a list that grows would copy all of them over and over.
+void make_room(const Connection& connection, Project& project) {
+    read_all_rows(connection, "SELECT count(*) FROM INLET", [&](const Columns& /*columns*/, const Row& row) {
+        project.inlets.reserve(static_cast<std::size_t>(platform::read_number(row[0].value_or("")).number));
+    });
+}
+
 void read_inlets(const Connection& connection, Project& project) {
+    make_room(connection, project);
     std::vector<std::optional<engine::Column>> places;
     read_all_rows(connection, "SELECT * FROM INLET ORDER BY rowid", [&](const Columns& columns, Row row) {
         if (places.empty()) {

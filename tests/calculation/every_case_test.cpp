@@ -7,6 +7,7 @@
 #include "calculation/as_text.h"
 #include "calculation_fixture.h"
 #include "engine/results.h"
+#include "support/case_tables.h"
 
 namespace gullymark::calculation {
 namespace {
@@ -162,7 +163,7 @@ class EveryCase : public CalculationTest, public testing::WithParamInterface<con
 };
 
 TEST_P(EveryCase, HasASheetThatIsWholeAndLeavesAllAsItWas) {
-    const auto table = cases::read_table(std::string(GULLYMARK_TEST_DIR) + "/cases/" + GetParam());
+    const auto table = testing_support::read_case_table(GetParam());
     const std::size_t stride = std::getenv("GULLYMARK_ALL_ROWS") != nullptr || table.rows.size() < 20 ? 1 : 7;
     for (std::size_t i = 0; i < table.rows.size(); i += stride) {
         SCOPED_TRACE(std::string(GetParam()) + ':' + std::to_string(i + 2));
@@ -175,13 +176,8 @@ TEST_P(EveryCase, HasASheetThatIsWholeAndLeavesAllAsItWas) {
     EXPECT_THAT(kinds, testing::Not(IsEmpty()));
 }
 
-INSTANTIATE_TEST_SUITE_P(Tables, EveryCase,
-                         testing::Values("solves_ordinary.tsv", "solves_boundary.tsv", "solves_deep.tsv",
-                                         "solves_unreadable.tsv", "solves_help.tsv"),
-                         [](const auto& table) {
-                             const std::string name = table.param;
-                             return name.substr(0, name.find('.'));
-                         });
+INSTANTIATE_TEST_SUITE_P(Tables, EveryCase, testing::ValuesIn(testing_support::case_tables),
+                         testing_support::name_by_table);
 
 }  // namespace
 }  // namespace gullymark::calculation

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "tools/case_table.h"
+#include "support/case_tables.h"
 
 namespace gullymark::cases {
 namespace {
@@ -10,7 +10,7 @@ namespace {
 class SolvedCases : public testing::TestWithParam<const char*> {};
 
 TEST_P(SolvedCases, EveryCellOfTheTableAgrees) {
-    const Table table = read_table(std::string(GULLYMARK_TEST_DIR) + "/cases/" + GetParam());
+    const Table table = testing_support::read_case_table(GetParam());
     ASSERT_FALSE(table.rows.empty());
     std::size_t cells = 0;
     for (std::size_t i = 0; i < table.rows.size(); ++i) {
@@ -24,13 +24,8 @@ TEST_P(SolvedCases, EveryCellOfTheTableAgrees) {
     EXPECT_GT(cells, 0U);
 }
 
-INSTANTIATE_TEST_SUITE_P(Tables, SolvedCases,
-                         testing::Values("solves_ordinary.tsv", "solves_boundary.tsv", "solves_deep.tsv",
-                                         "solves_unreadable.tsv"),
-                         [](const auto& table) {
-                             const std::string name = table.param;
-                             return name.substr(0, name.find('.'));
-                         });
+INSTANTIATE_TEST_SUITE_P(Tables, SolvedCases, testing::ValuesIn(testing_support::case_tables),
+                         testing_support::name_by_table);
 
 }  // namespace
 }  // namespace gullymark::cases

@@ -9,7 +9,7 @@
 
 #include "engine/engine_fixture.h"
 #include "engine/solve.h"
-#include "tools/case_table.h"
+#include "support/case_tables.h"
 
 namespace gullymark::engine {
 namespace {
@@ -123,9 +123,8 @@ struct Asked : EngineTest {
     }
 
     void solve_tables() {
-        for (const char* name : {"ordinary", "boundary", "deep", "unreadable", "help"}) {
-            const auto table =
-                cases::read_table(std::string(GULLYMARK_TEST_DIR) + "/cases/solves_" + name + ".tsv");
+        for (const char* name : testing_support::case_tables) {
+            const auto table = testing_support::read_case_table(name);
             for (const auto& row : table.rows) {
                 std::vector<TraceLine> trace;
                 onlooker = {.trace = &trace};

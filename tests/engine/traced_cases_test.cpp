@@ -13,7 +13,7 @@
 #include "engine/hydraulics/grate_types.h"
 #include "engine/written_formula.h"
 #include "platform/number_text.h"
-#include "tools/case_table.h"
+#include "support/case_tables.h"
 
 namespace gullymark::engine {
 namespace {
@@ -300,7 +300,7 @@ class TracedCases : public EngineTest, public testing::WithParamInterface<const 
 };
 
 TEST_P(TracedCases, EveryPrintedFormulaComesToWhatItsStepDid) {
-    const auto table = cases::read_table(std::string(GULLYMARK_TEST_DIR) + "/cases/" + GetParam());
+    const auto table = testing_support::read_case_table(GetParam());
     for (std::size_t i = 0; i < table.rows.size(); i += stride(table)) {
         SCOPED_TRACE(std::string(GetParam()) + ':' + std::to_string(i + 2));
         cases::load_row(table, table.rows[i]);
@@ -322,13 +322,8 @@ TEST_P(TracedCases, EveryPrintedFormulaComesToWhatItsStepDid) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Tables, TracedCases,
-                         testing::Values("solves_ordinary.tsv", "solves_boundary.tsv", "solves_deep.tsv",
-                                         "solves_unreadable.tsv", "solves_help.tsv"),
-                         [](const auto& table) {
-                             const std::string name = table.param;
-                             return name.substr(0, name.find('.'));
-                         });
+INSTANTIATE_TEST_SUITE_P(Tables, TracedCases, testing::ValuesIn(testing_support::case_tables),
+                         testing_support::name_by_table);
 
 }  // namespace
 }  // namespace gullymark::engine

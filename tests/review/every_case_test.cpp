@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "review_fixture.h"
-#include "tools/case_table.h"
+#include "support/case_tables.h"
 
 namespace gullymark::review {
 namespace {
@@ -11,9 +11,7 @@ class EveryCase : public testing::TestWithParam<const char*> {
   protected:
     void TearDown() override { platform::outside = {}; }
 
-    static cases::Table table() {
-        return cases::read_table(std::string(GULLYMARK_TEST_DIR) + "/cases/" + GetParam());
-    }
+    static cases::Table table() { return testing_support::read_case_table(GetParam()); }
 
     static Project solved_row(const cases::Table& rows, std::size_t row) {
         cases::solve_row(rows, rows.rows[row]);
@@ -32,13 +30,8 @@ TEST_P(EveryCase, ItsOwnResultsFollowFromItsInputs) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Tables, EveryCase,
-                         testing::Values("solves_ordinary.tsv", "solves_boundary.tsv", "solves_deep.tsv",
-                                         "solves_unreadable.tsv", "solves_help.tsv"),
-                         [](const auto& each) {
-                             const std::string name = each.param;
-                             return name.substr(0, name.find('.'));
-                         });
+INSTANTIATE_TEST_SUITE_P(Tables, EveryCase, testing::ValuesIn(testing_support::case_tables),
+                         testing_support::name_by_table);
 
 struct OrdinaryCase : EveryCase {};
 
@@ -74,10 +67,7 @@ TEST_P(OrdinaryCase, HasNothingWrong) {
 
 INSTANTIATE_TEST_SUITE_P(Tables, OrdinaryCase,
                          testing::Values("solves_ordinary.tsv", "solves_deep.tsv", "solves_help.tsv"),
-                         [](const auto& each) {
-                             const std::string name = each.param;
-                             return name.substr(0, name.find('.'));
-                         });
+                         testing_support::name_by_table);
 
 }  // namespace
 }  // namespace gullymark::review

@@ -13,6 +13,7 @@
 #include "engine/inlet_flow.h"
 #include "engine/results.h"
 #include "platform/number_text.h"
+#include "review/advices.h"
 #include "review/findings.h"
 #include "review/rules.h"
 
@@ -135,7 +136,7 @@ class ReviewTest : public engine::EngineTest {
     [[nodiscard]] Told told_by(std::string_view rule) const {
         Told all;
         for (const auto& finding : judge(project, limits)) {
-            EXPECT_TRUE(finding.advice.size() > 1 && finding.advice.back() == '.') << finding.rule;
+            EXPECT_THAT(advices, testing::Contains(testing::Pair(finding.rule, finding.advice)));
             if (finding.rule == rule) {
                 all.push_back(finding.inlet.empty() ? finding.text : finding.inlet + ": " + finding.text);
             }

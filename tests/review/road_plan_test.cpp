@@ -54,6 +54,14 @@ TEST_F(RoadPlanTest, PutsInletsAtTheirStationsOnTheirSideOfTheLine) {
     }
 }
 
+TEST_F(RoadPlanTest, TellsOfAnInletThatCannotBeSolvedAnew) {
+    change(0, {{Column::DISCHARGE1, "0.000"}});
+    const auto fresh = make_fresh_road(project);
+    const auto road = plan_road(project, {}, &fresh);
+    EXPECT_THAT(road.inlets[0].sentence, testing::HasSubstr("It cannot be solved anew"));
+    EXPECT_THAT(road.inlets[1].sentence, testing::Not(testing::HasSubstr("It cannot be solved anew")));
+}
+
 TEST_F(RoadPlanTest, TakesTheSideFromItsWordThenFromTheSignOfTheOffset) {
     change(0, {{Column::OFFSET, "12.000"}});
     change(1, {{Column::OFFSET_LOCATION, ""}});
@@ -169,6 +177,7 @@ TEST_F(RoadPlanTest, GivesEachRoadwayALaneAndTheUnreadableStationsTheLast) {
     ASSERT_EQ(road.lanes.size(), 3U);
     EXPECT_EQ(road.lanes[0].name, "");
     EXPECT_EQ(road.lanes[1].name, "Mill Road");
+    EXPECT_EQ(road.lanes[2].name, "No station that can be read");
     EXPECT_FALSE(road.lanes[2].has_stations);
     EXPECT_EQ(road.inlets[2].lane, 2U);
     EXPECT_LT(road.inlets[2].at, road.inlets[3].at);

@@ -7,7 +7,7 @@
 #include "platform/number_text.h"
 #include "section/approaches.h"
 #include "section_fixture.h"
-#include "tools/case_table.h"
+#include "support/case_tables.h"
 
 namespace gullymark::section {
 namespace {
@@ -16,9 +16,7 @@ class EveryCase : public testing::TestWithParam<const char*> {
   protected:
     void TearDown() override { platform::outside = {}; }
 
-    static cases::Table table() {
-        return cases::read_table(std::string(GULLYMARK_TEST_DIR) + "/cases/" + GetParam());
-    }
+    static cases::Table table() { return testing_support::read_case_table(GetParam()); }
 };
 
 TEST_P(EveryCase, IsDrawnInItsFrameAndWithoutABox) {
@@ -64,13 +62,8 @@ TEST_P(EveryCase, HasTheSpreadOfTheLargerApproachAsTheSolverFoundIt) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Tables, EveryCase,
-                         testing::Values("solves_ordinary.tsv", "solves_boundary.tsv", "solves_deep.tsv",
-                                         "solves_unreadable.tsv", "solves_help.tsv"),
-                         [](const auto& table) {
-                             const std::string name = table.param;
-                             return name.substr(0, name.find('.'));
-                         });
+INSTANTIATE_TEST_SUITE_P(Tables, EveryCase, testing::ValuesIn(testing_support::case_tables),
+                         testing_support::name_by_table);
 
 }  // namespace
 }  // namespace gullymark::section
