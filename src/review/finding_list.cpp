@@ -21,10 +21,15 @@ bool holds(const Finding& finding, std::string_view wanted) {
            holds(finding.advice, wanted) || holds(finding.rule, wanted);
 }
 
-bool comes_before(const Finding& one, const Finding& other, FindingOrder order) {
+std::size_t place_of(const Finding& finding, const std::vector<std::size_t>& places) {
+    return finding.index < places.size() ? places[finding.index] : finding.index;
+}
+
+bool comes_before(const Finding& one, const Finding& other, FindingOrder order,
+                  const std::vector<std::size_t>& places) {
     switch (order) {
         case FindingOrder::along_the_road:
-            return one.index < other.index;
+            return place_of(one, places) < place_of(other, places);
         case FindingOrder::by_text:
             return one.text < other.text;
         case FindingOrder::by_severity:
@@ -35,7 +40,8 @@ bool comes_before(const Finding& one, const Finding& other, FindingOrder order) 
 
 }  // namespace
 
-std::vector<std::size_t> choose_findings(const std::vector<Finding>& findings, const FindingChoice& choice) {
+std::vector<std::size_t> choose_findings(const std::vector<Finding>& findings, const FindingChoice& choice,
+                                         const std::vector<std::size_t>& places) {
     std::vector<std::size_t> chosen;
     for (std::size_t i = 0; i < findings.size(); ++i) {
         if (choice.severities.contains(findings[i].severity) && holds(findings[i], choice.text)) {
@@ -43,8 +49,8 @@ std::vector<std::size_t> choose_findings(const std::vector<Finding>& findings, c
         }
     }
     std::stable_sort(chosen.begin(), chosen.end(), [&](std::size_t one, std::size_t other) {
-        return choice.descending ? comes_before(findings[other], findings[one], choice.order)
-                                 : comes_before(findings[one], findings[other], choice.order);
+        return choice.descending ? comes_before(findings[other], findings[one], choice.order, places)
+                                 : comes_before(findings[one], findings[other], choice.order, places);
     });
     return chosen;
 }

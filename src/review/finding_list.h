@@ -24,8 +24,10 @@ struct FindingChoice {
 };
 
 /// The indices of what is shown, in its order. Findings that the order does not tell apart stay as they are in `findings`;
-/// along the road those of the whole project come last.
-std::vector<std::size_t> choose_findings(const std::vector<Finding>& findings, const FindingChoice& choice);
+/// along the road those of the whole project come last. `places` tells where each inlet stands along it; empty for the order
+/// of the file.
+std::vector<std::size_t> choose_findings(const std::vector<Finding>& findings, const FindingChoice& choice,
+                                         const std::vector<std::size_t>& places = {});
 
 /// The same finding in a new state: the same words, else the same rule at the same inlet; nothing where it is mended.
 std::optional<std::size_t> find_again(const std::vector<Finding>& findings, const Finding& before);

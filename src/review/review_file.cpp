@@ -2,8 +2,10 @@
 
 #include <utility>
 
+#include "calculation/units_in_force.h"
 #include "review/findings.h"
 #include "review/read_project.h"
+#include "review/road_plan.h"
 
 namespace gullymark::review {
 
@@ -24,7 +26,9 @@ std::optional<Reviewed> review_file(const std::string& path, const Limits& limit
     }
     reviewed.findings = std::move(*findings);
     reviewed.fresh = std::move(*fresh);
+    const calculation::UnitsInForce units(reviewed.project.units);
     reviewed.balance = balance_of(reviewed.project);
+    reviewed.places = plan_road(reviewed.project, reviewed.findings).places;
     return reviewed;
 }
 

@@ -18,6 +18,7 @@ struct Reviewed {
     std::vector<Finding> findings;
     FreshRoad fresh;
     Balance balance;
+    std::vector<std::size_t> places;  // where each inlet stands along the road
 };
 
 /// Reads the project at `path`, judges it and works out its fresh road; nothing when `progress` ended that. Throws Failure as

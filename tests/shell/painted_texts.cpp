@@ -32,8 +32,12 @@ class TextKeeper : public QPaintEngine {
         if (painter()->hasClipping() && !painter()->clipPath().contains(box.center())) {
             return;
         }
-        texts.push_back({item.text(), painter()->deviceTransform().mapRect(box).toAlignedRect(),
-                         painter()->pen().color()});
+        // What does not fit into its widget ends at its edge.
+        const QRect where = painter()->deviceTransform().mapRect(box).toAlignedRect();
+        const QRect seen = systemClip().isEmpty() ? where : where & systemClip().boundingRect();
+        if (seen.contains(where.center())) {
+            texts.push_back({item.text(), seen, painter()->pen().color()});
+        }
     }
     [[nodiscard]] Type type() const override { return User; }
 };

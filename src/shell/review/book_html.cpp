@@ -104,7 +104,8 @@ QString book_title_html(const review::Reviewed& reviewed, const QString& file, c
 }
 
 QStringList book_to_do_html(const review::Reviewed& reviewed) {
-    const auto& [project, findings, fresh, balance] = reviewed;
+    const auto& project = reviewed.project;
+    const auto& fresh = reviewed.fresh;
     QStringList paragraphs;
     paragraphs << (fresh.to_do.empty() ? QStringLiteral("<p>Every inlet is up to date: its carryovers are "
                                                         "the bypass of the previous inlets, and its "

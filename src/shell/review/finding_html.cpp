@@ -11,7 +11,7 @@
 namespace gullymark::shell {
 namespace {
 
-QString escaped(const std::string& text) {
+QString told_html(const std::string& text) {
     constexpr std::size_t most_characters = 5000;
     return to_qt(platform::first_characters(text, most_characters)).toHtmlEscaped();
 }
@@ -19,12 +19,12 @@ QString escaped(const std::string& text) {
 QString html_of(const review::Finding& finding, int sign) {
     const QString word = severity_text(finding.severity);
     const QString where = finding.index == review::whole_project ? QStringLiteral("The project")
-                                                                 : "Inlet " + escaped(finding.inlet);
+                                                                 : "Inlet " + told_html(finding.inlet);
     return QStringLiteral(R"(<p style="margin:2px 0 6px 0"><img src="sign:%1" width="%2" height="%2"> )")
                .arg(word)
                .arg(sign) +
            QStringLiteral("<b>%1</b>, %2: %3<br>%4</p>")
-               .arg(word, where, escaped(finding.text), escaped(finding.advice));
+               .arg(word, where, told_html(finding.text), told_html(finding.advice));
 }
 
 }  // namespace

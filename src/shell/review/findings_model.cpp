@@ -16,7 +16,7 @@ QString cell_text(const std::string& text) {
     return to_qt(platform::first_characters(platform::on_one_line(text), most_characters));
 }
 
-QString text_of(const review::Finding& finding, int column) {
+QString column_text(const review::Finding& finding, int column) {
     switch (column) {
         case FindingsModel::severity_column:
             return severity_text(finding.severity);
@@ -68,7 +68,7 @@ QVariant FindingsModel::data(const QModelIndex& index, int role) const {
     switch (role) {
         case Qt::DisplayRole:
         case Qt::ToolTipRole:
-            return text_of(*shown, index.column());
+            return column_text(*shown, index.column());
         case Qt::DecorationRole:
             return index.column() == severity_column ? QVariant(severity_icon(shown->severity)) : QVariant();
         case Qt::TextAlignmentRole:

@@ -106,7 +106,7 @@ FindingsPage::FindingsPage(QWidget* parent)
 
 void FindingsPage::build_choice(QLayout& layout) {
     auto* row = new QHBoxLayout;
-    auto* label = new QLabel(QStringLiteral("F&ind:"));
+    auto* label = new QLabel(QStringLiteral("Find:"));
     text_ = new FilterLine;
     label->setBuddy(text_);
     row->addWidget(label);
@@ -154,7 +154,7 @@ void FindingsPage::show_review(const review::Reviewed& now, const review::Review
         picked_before == nullptr ? std::nullopt : std::optional(*picked_before);
     shown_ = &now;
     table_->keep_place([&] {
-        model_->show(now.findings, review::choose_findings(now.findings, choice_));
+        model_->show(now.findings, review::choose_findings(now.findings, choice_, now.places));
         const auto found = wanted ? review::find_again(now.findings, *wanted) : std::nullopt;
         return found ? model_->row_of(*found) : -1;
     });
@@ -174,7 +174,7 @@ void FindingsPage::choose() {
     }
     const Finding* wanted = current();
     table_->keep_place([&] {
-        model_->show(shown_->findings, review::choose_findings(shown_->findings, choice_));
+        model_->show(shown_->findings, review::choose_findings(shown_->findings, choice_, shown_->places));
         return wanted == nullptr ? -1
                                  : model_->row_of(static_cast<std::size_t>(wanted - shown_->findings.data()));
     });

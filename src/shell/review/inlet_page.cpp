@@ -10,6 +10,8 @@
 
 #include "engine/units.h"
 #include "platform/characters.h"
+#include "review/inlet_list.h"
+#include "review/summary.h"
 #include "section/section.h"
 #include "shell/binding/qt_text.h"
 #include "shell/review/finding_html.h"
@@ -43,7 +45,7 @@ QString place_of(const engine::InletRecord& inlet) {
         parts << "Station " + short_text(inlet.text(Column::STATION));
     }
     if (!inlet.text(Column::OFFSET).empty()) {
-        parts << "offset " + short_text(inlet.text(Column::OFFSET)) + ' ' +
+        parts << (parts.isEmpty() ? "Offset " : "offset ") + short_text(inlet.text(Column::OFFSET)) + ' ' +
                      to_qt(engine::unit_text(engine::column_unit(Column::OFFSET))) + ' ' +
                      short_text(inlet.text(Column::OFFSET_LOCATION));
     }
@@ -64,7 +66,7 @@ section::Water water_of(const engine::InletRecord& inlet, const std::vector<revi
     return water == section::Water::solved && differs ? section::Water::unsolved : water;
 }
 
-QLabel* line(const char* name) {
+QLabel* inlet_line(const char* name) {
     auto* label = new QLabel;
     label->setObjectName(QString::fromLatin1(name));
     label->setTextFormat(Qt::PlainText);
@@ -77,8 +79,9 @@ QLabel* line(const char* name) {
 
 InletPage::InletPage(QWidget* parent)
     : QWidget(parent),
-      title_(line("inlet_title")),
-      place_(line("inlet_place")),
+      title_(inlet_line("inlet_title")),
+      place_(inlet_line("inlet_place")),
+      numbers_(inlet_line("inlet_numbers")),
       told_(new QTextBrowser),
       picture_(new SectionPicture) {
     QFont bold = font();
@@ -96,9 +99,12 @@ InletPage::InletPage(QWidget* parent)
     parts->addWidget(picture_);
     parts->setChildrenCollapsible(false);
     parts->setStretchFactor(1, 1);
+    constexpr int lines = 9;
+    parts->setSizes({lines * fontMetrics().lineSpacing(), 2 * lines * fontMetrics().lineSpacing()});
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(title_);
     layout->addWidget(place_);
+    layout->addWidget(numbers_);
     layout->addWidget(parts, 1);
     setFocusProxy(told_);
     clear();
@@ -112,6 +118,12 @@ void InletPage::show_inlet(const review::Reviewed& reviewed, std::size_t inlet) 
     title_->setText(title_of(inlet_));
     place_->setText(place_of(inlet_));
     place_->setVisible(!place_->text().isEmpty());
+    QString numbers = "Stored: " + to_qt(review::numbers_line(reviewed, inlet, false));
+    if (review::is_stale(reviewed, inlet)) {
+        numbers += "\nBrought up to date: " + to_qt(review::numbers_line(reviewed, inlet, true));
+    }
+    numbers_->setText(numbers);
+    numbers_->show();
     tell();
     picture_->show();
     picture_->follow(water_of(inlet_, findings_));
@@ -122,6 +134,7 @@ void InletPage::clear() {
     findings_.clear();
     title_->setText(QStringLiteral("No inlet"));
     place_->hide();
+    numbers_->hide();
     told_->clear();
     picture_->hide();
 }

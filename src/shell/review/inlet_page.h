@@ -31,6 +31,7 @@ class InletPage : public QWidget {
     std::vector<review::Finding> findings_;
     QLabel* title_;
     QLabel* place_;
+    QLabel* numbers_;
     QTextBrowser* told_;
     SectionPicture* picture_;
 };

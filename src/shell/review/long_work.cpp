@@ -8,7 +8,7 @@ namespace {
 
 constexpr qint64 shown_after = 500;
 constexpr qint64 between_looks = 50;
-constexpr int whole = 1000;
+constexpr int full_bar = 1000;
 
 }  // namespace
 
@@ -19,7 +19,7 @@ LongWork::LongWork(QWidget* parent, const QString& what) : parent_(parent), what
 LongWork::~LongWork() = default;
 
 void LongWork::show() {
-    dialog_ = std::make_unique<QProgressDialog>(what_, QStringLiteral("Cancel"), 0, whole, parent_);
+    dialog_ = std::make_unique<QProgressDialog>(what_, QStringLiteral("Cancel"), 0, full_bar, parent_);
     dialog_->setObjectName(QStringLiteral("progress"));
     dialog_->setWindowTitle(QStringLiteral("GullymarkAL Review"));
     dialog_->setWindowModality(Qt::ApplicationModal);
@@ -36,7 +36,7 @@ bool LongWork::go_on(std::size_t done, std::size_t all) {
     if (!dialog_) {
         show();
     }
-    dialog_->setValue(all == 0 ? 0 : static_cast<int>(done * whole / all));
+    dialog_->setValue(all == 0 ? 0 : static_cast<int>(done * full_bar / all));
     QCoreApplication::processEvents();
     next_ = since_.elapsed() + between_looks;
     ended_ = dialog_->wasCanceled();

@@ -6,13 +6,14 @@
 
 #include "platform/characters.h"
 #include "review/finding_lines.h"
+#include "review/summary.h"
 #include "shell/binding/qt_text.h"
 #include "shell/review/severity_sign.h"
 
 namespace gullymark::shell {
 namespace {
 
-QLabel* line(const char* name, const char* accessible) {
+QLabel* head_line(const char* name, const char* accessible) {
     auto* label = new QLabel;
     label->setObjectName(QString::fromLatin1(name));
     label->setAccessibleName(QString::fromLatin1(accessible));
@@ -39,11 +40,13 @@ QString project_line(const review::Project& project) {
 
 ReviewHead::ReviewHead(QWidget* parent)
     : QWidget(parent),
-      project_(line("project", "Project")),
-      counts_(line("counts", "Findings")),
+      project_(head_line("project", "Project")),
+      counts_(head_line("counts", "Findings")),
+      balance_(head_line("balance", "Balance")),
+      to_do_(head_line("to_do", "What to open, solve and save")),
       warning_(new QWidget),
       warning_sign_(new QLabel),
-      warning_text_(line("warning", "Warning")) {
+      warning_text_(head_line("warning", "Warning")) {
     QFont bold = font();
     bold.setBold(true);
     project_->setFont(bold);
@@ -57,7 +60,8 @@ ReviewHead::ReviewHead(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     constexpr int gap = 2;
     layout->setSpacing(gap);
-    for (QWidget* part : {static_cast<QWidget*>(project_), static_cast<QWidget*>(counts_), warning_}) {
+    for (QWidget* part : {static_cast<QWidget*>(project_), static_cast<QWidget*>(counts_),
+                          static_cast<QWidget*>(balance_), static_cast<QWidget*>(to_do_), warning_}) {
         layout->addWidget(part);
     }
     color_warning();
@@ -67,6 +71,13 @@ void ReviewHead::show_project(const review::Reviewed& reviewed, const QString& f
     project_->setText(project_line(reviewed.project));
     project_->setToolTip(file);
     counts_->setText(to_qt(review::finding_counts(reviewed.findings, reviewed.project.inlets.size())));
+    constexpr std::size_t most_told = 25;
+    balance_->setText(to_qt(review::balance_line(reviewed.balance)));
+    to_do_->setText(to_qt(review::to_do_line(reviewed, most_told)));
+    const QString obstacle = to_qt(review::obstacle_line(reviewed.fresh));
+    if (!obstacle.isEmpty()) {
+        to_do_->setText(to_do_->text() + ".  " + obstacle);
+    }
 }
 
 void ReviewHead::warn(const QString& text) {

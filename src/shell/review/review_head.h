@@ -8,7 +8,7 @@ class QLabel;
 
 namespace gullymark::shell {
 
-/// What stands above all pages: the project, how much was found, and, where the file cannot be read, since when what is shown is
+/// What stands above all pages: the project, how much was found, where its water stays, what is to do, and, where the file cannot be read, since when what is shown is
 /// of another day.
 class ReviewHead : public QWidget {
   public:
@@ -26,6 +26,8 @@ class ReviewHead : public QWidget {
 
     QLabel* project_;
     QLabel* counts_;
+    QLabel* balance_;
+    QLabel* to_do_;
     QWidget* warning_;
     QLabel* warning_sign_;
     QLabel* warning_text_;

@@ -68,6 +68,16 @@ void ReviewTable::mark(int row) {
     quiet_ = was_quiet;
 }
 
+void ReviewTable::fit_columns() {
+    constexpr int most_letters = 26;
+    const int widest = most_letters * fontMetrics().averageCharWidth();
+    horizontalHeader()->setResizeContentsPrecision(100);
+    resizeColumnsToContents();
+    for (int column = 0; column < model()->columnCount(); ++column) {
+        setColumnWidth(column, std::min(columnWidth(column) + fontMetrics().averageCharWidth(), widest));
+    }
+}
+
 void ReviewTable::keep_place(const std::function<int()>& change) {
     const bool was_quiet = std::exchange(quiet_, true);
     const int before = currentIndex().row();
@@ -102,7 +112,10 @@ QString ReviewTable::marked_as_text() const {
         }
         return cells.join('\t') + '\n';
     };
-    QString text = line([&](int column) { return model()->headerData(column, Qt::Horizontal); });
+    QString text = line([&](int column) {
+        const QVariant whole = model()->headerData(column, Qt::Horizontal, Qt::AccessibleTextRole);
+        return whole.isValid() ? whole : model()->headerData(column, Qt::Horizontal);
+    });
     for (const int row : rows) {
         text += line([&](int column) { return model()->index(row, column).data(); });
     }

@@ -20,6 +20,8 @@ class ReviewTable : public QTableView {
     void set_lines(int lines);
     /// Makes a row current and the one that is marked; -1 unmarks all. Nothing is told.
     void mark(int row);
+    /// Makes the columns as wide as the headings and the first rows are, within reason.
+    void fit_columns();
     /// Runs `change`, which shows other rows and tells where the current one stands now (-1 where it is gone). The row that was
     /// in sight stands where it stood, else the list is scrolled as it was.
     void keep_place(const std::function<int()>& change);

@@ -25,11 +25,14 @@
 #include "review/finding_list.h"
 #include "shell/binding/qt_text.h"
 #include "shell/binding/turn.h"
+#include "shell/review/calculation_page.h"
 #include "shell/review/findings_page.h"
 #include "shell/review/inlet_page.h"
+#include "shell/review/inlets_page.h"
 #include "shell/review/long_work.h"
 #include "shell/review/review_head.h"
 #include "store/help.h"
+#include "store/project_session.h"
 
 namespace gullymark::shell {
 namespace {
@@ -74,13 +77,20 @@ void ReviewWindow::build_pages() {
     right_ = tabs("details", "The inlet");
     findings_ = new FindingsPage;
     inlet_ = new InletPage;
-    left_->addTab(findings_, QStringLiteral("&Findings"));
-    right_->addTab(inlet_, QStringLiteral("I&nlet"));
+    inlets_ = new InletsPage;
+    calculation_ = new CalculationPage;
+    // The road's picture stands behind the lists, the sizes behind the calculation.
+    left_->addTab(findings_, QStringLiteral("Fi&ndings"));
+    left_->addTab(inlets_, QStringLiteral("In&lets"));
+    right_->addTab(inlet_, QStringLiteral("&Inlet"));
+    right_->addTab(calculation_, QStringLiteral("Wor&ked Calculation"));
     findings_->picked = [this](std::size_t inlet) { set_current(inlet); };
+    inlets_->picked = findings_->picked;
     findings_->entered = [this] {
         right_->setCurrentWidget(inlet_);
         inlet_->setFocus();
     };
+    inlets_->entered = findings_->entered;
     auto* halves = new QSplitter(Qt::Horizontal);
     halves->setObjectName(QStringLiteral("halves"));
     halves->addWidget(left_);
@@ -132,11 +142,10 @@ void ReviewWindow::build_menus() {
 }
 
 void ReviewWindow::choose_file() {
-    platform::FileDialog dialog{
-        .filter = "Gullymark files (*.gmk)|*.gmk|All files|*", .title = "Open", .must_exist = true};
-    if (!path_.empty()) {
-        dialog.initial_folder = from_qt(QFileInfo(to_qt(path_)).absolutePath());
-    }
+    platform::FileDialog dialog{.filter = "Gullymark files (*.gmk)|*.gmk|All files|*",
+                                .initial_folder = store::session.workingDirectory,
+                                .title = "Open",
+                                .must_exist = true};
     dialog.show_open();
     if (!dialog.file_name.empty()) {
         open(dialog.file_name);
@@ -157,6 +166,8 @@ void ReviewWindow::open(const std::string& path) {
         auto reviewed = read(file);
         if (reviewed) {
             const bool same = std::exchange(path_, file) == file;
+            // Where all dialogs start, until the program ends.
+            store::session.workingDirectory = from_qt(QFileInfo(to_qt(file)).absolutePath());
             follower_.follow(path_, std::move(state));
             take(std::move(reviewed), same);
         }
@@ -202,6 +213,7 @@ void ReviewWindow::take(std::unique_ptr<review::Reviewed> reviewed, bool same_fi
     head_->show_project(*shown_, to_qt(path_));
     head_->warn({});
     findings_->show_review(*shown_, earlier);
+    inlets_->show_review(*shown_, current_);
     show_current();
     tell_state();
 }
@@ -226,9 +238,12 @@ void ReviewWindow::set_current(std::size_t inlet) {
 void ReviewWindow::show_current() {
     if (current_ < shown_->project.inlets.size()) {
         inlet_->show_inlet(*shown_, current_);
+        calculation_->show_inlet(*shown_, current_);
         findings_->set_current(current_);
+        inlets_->set_current(current_);
     } else {
         inlet_->clear();
+        calculation_->clear();
     }
 }
 
@@ -246,7 +261,9 @@ void ReviewWindow::sort_along_road() {
 }
 
 void ReviewWindow::copy() {
-    if (const QString text = findings_->marked_as_text(); !text.isEmpty()) {
+    const bool of_inlets = left_->currentWidget() == inlets_;
+    if (const QString text = of_inlets ? inlets_->marked_as_text() : findings_->marked_as_text();
+        !text.isEmpty()) {
         QGuiApplication::clipboard()->setText(text);
     }
 }

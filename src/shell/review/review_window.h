@@ -12,8 +12,10 @@ class QTabWidget;
 
 namespace gullymark::shell {
 
+class CalculationPage;
 class FindingsPage;
 class InletPage;
+class InletsPage;
 class ReviewHead;
 
 /// The reviewer's window: what was found in a project, and the inlet that is picked. It follows the file, which is only read.
@@ -62,7 +64,9 @@ class ReviewWindow : public QMainWindow {
     QTabWidget* left_ = nullptr;
     QTabWidget* right_ = nullptr;
     FindingsPage* findings_ = nullptr;
+    InletsPage* inlets_ = nullptr;
     InletPage* inlet_ = nullptr;
+    CalculationPage* calculation_ = nullptr;
 };
 
 }  // namespace gullymark::shell

@@ -5,8 +5,6 @@
 #include "calculation/document.h"
 #include "section/section.h"
 
-class QTextBrowser;
-
 namespace gullymark::shell {
 
 /// The worked calculation of one inlet: to read, to print, to save as PDF and to copy as text.
@@ -14,16 +12,6 @@ class CalculationWindow : public QDialog {
   public:
     /// Of the open inlet, which stays as it is while the window is open.
     CalculationWindow(calculation::Document document, section::Water water, QWidget* parent = nullptr);
-
-  private:
-    void add_buttons(class QLayout& layout);
-    void print();
-    void save_as_pdf();
-    void copy_as_text() const;
-
-    calculation::Document document_;
-    section::Section section_;
-    QTextBrowser* text_;
 };
 
 /// Shows the worked calculation of the open inlet, modal, and waits until it is closed. `form` has the captions of the columns.
