@@ -5,22 +5,16 @@
 
 #include "engine/unit_constants.h"
 #include "engine/units.h"
-#include "platform/characters.h"
 #include "review/finding_lines.h"
 #include "review/texts.h"
 #include "shell/binding/qt_text.h"
+#include "shell/review/finding_html.h"
 #include "shell/review/severity_sign.h"
 
 namespace gullymark::shell {
 namespace {
 
 using engine::Column;
-
-constexpr std::size_t most_characters = 5000;
-
-QString escaped(const std::string& text) {
-    return to_qt(platform::first_characters(text, most_characters)).toHtmlEscaped();
-}
 
 QString table() {
     return QStringLiteral(R"(<table width="100%" cellspacing="0" cellpadding="2">)");
@@ -36,7 +30,7 @@ QString field(const char* label, const QString& text) {
 QString numbers_of(const review::Project& project, const std::vector<std::size_t>& indices) {
     QStringList numbers;
     for (const std::size_t index : indices) {
-        numbers << escaped(project.inlets[index].text(Column::INLET_NUMBER));
+        numbers << escaped_text(project.inlets[index].text(Column::INLET_NUMBER));
     }
     return numbers.join(QStringLiteral(", "));
 }
@@ -74,7 +68,8 @@ QString small(const QString& html) {
 
 /// What a value would be up to date.
 QString now_html(const std::string& text) {
-    return "<br>" + small("<b>\u2192 " + (text.empty() ? QStringLiteral("blank") : escaped(text)) + "</b>");
+    return "<br>" +
+           small("<b>\u2192 " + (text.empty() ? QStringLiteral("blank") : escaped_text(text)) + "</b>");
 }
 
 QString cell(const TableColumn& column, const QString& html) {
@@ -94,10 +89,10 @@ Column shown_column(const engine::InletRecord& inlet, Column column) {
 QString book_title_html(const review::Reviewed& reviewed, const QString& file, const QString& date) {
     const auto& project = reviewed.project;
     return R"(<h1 style="margin:0 0 6px 0">Review of )" +
-           (project.name.empty() ? QStringLiteral("a project without a name") : escaped(project.name)) +
-           "</h1>" + table() + field("Project", escaped(project.id)) +
-           field("County", escaped(project.county)) + field("State", escaped(project.state)) +
-           field("Designer", escaped(project.designer)) + field("Units", escaped(project.units)) +
+           (project.name.empty() ? QStringLiteral("a project without a name") : escaped_text(project.name)) +
+           "</h1>" + table() + field("Project", escaped_text(project.id)) +
+           field("County", escaped_text(project.county)) + field("State", escaped_text(project.state)) +
+           field("Designer", escaped_text(project.designer)) + field("Units", escaped_text(project.units)) +
            field("File", file.toHtmlEscaped()) + field("Date", date) +
            field("Found", to_qt(review::finding_counts(reviewed.findings, project.inlets.size()))) +
            "</table>";
@@ -113,7 +108,7 @@ QStringList book_to_do_html(const review::Reviewed& reviewed) {
                                        : "<p>Open, solve and save, in this order: <b>" +
                                              numbers_of(project, fresh.to_do) + "</b>.</p>");
     for (const auto& obstacle : fresh.obstacles) {
-        paragraphs << "<p>" + escaped(obstacle.text) + "</p>";
+        paragraphs << "<p>" + escaped_text(obstacle.text) + "</p>";
     }
     return paragraphs;
 }
@@ -136,9 +131,9 @@ QString book_findings_heading(review::Severity severity, std::size_t count) {
 
 QString book_finding_html(const review::Finding& finding) {
     const QString where =
-        finding.index == review::whole_project ? QStringLiteral("The project") : escaped(finding.inlet);
-    return table() + R"(<tr><td width="14%"><b>)" + where + "</b></td><td>" + escaped(finding.text) +
-           "<br><i>" + escaped(finding.advice) + "</i></td></tr></table>";
+        finding.index == review::whole_project ? QStringLiteral("The project") : escaped_text(finding.inlet);
+    return table() + R"(<tr><td width="14%"><b>)" + where + "</b></td><td>" + escaped_text(finding.text) +
+           "<br><i>" + escaped_text(finding.advice) + "</i></td></tr></table>";
 }
 
 QString book_table_head() {
@@ -158,7 +153,7 @@ QString book_table_row(const review::Reviewed& reviewed, std::size_t index) {
     for (const auto& column : table_columns) {
         const auto& text = stored.text(shown_column(stored, column.column));
         const auto& now = fresh.text(shown_column(fresh, column.column));
-        html += cell(column, small(escaped(text)) + (text == now ? QString() : now_html(now)));
+        html += cell(column, small(escaped_text(text)) + (text == now ? QString() : now_html(now)));
     }
     return html + "</tr></table>";
 }
