@@ -38,7 +38,8 @@ void add_inlet(Balance& balance, const Links& links, const engine::InletRecord& 
 
 bool Balance::closes() const {
     constexpr double sums_of_doubles = 1e-9;
-    return std::fabs(unexplained()) <= rounding + sums_of_doubles * std::fabs(in);
+    return std::isfinite(unexplained()) &&
+           std::fabs(unexplained()) <= rounding + sums_of_doubles * std::fabs(in);
 }
 
 Balance balance_of(const Project& project, const Links& links) {

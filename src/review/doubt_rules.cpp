@@ -1,7 +1,6 @@
 #include "review/doubt_rules.h"
 
 #include "calculation/stored_results.h"
-#include "platform/number_text.h"
 #include "review/neighbor.h"
 #include "section/measures.h"
 
@@ -89,10 +88,10 @@ void judge_slot(Survey& survey, Survey::Index index, const calculation::SolvedCo
     const auto& record = survey.inlet(index);
     constexpr double a_little = 0.05;
     const double flow = number_or_zero(record, Column::TOTAL_DISCHARGE);
-    const auto more = solve_with(survey, index, Column::TOTAL_DISCHARGE,
-                                 platform::number_text(flow * (1 + a_little)), solved.number_format);
-    const auto less = solve_with(survey, index, Column::TOTAL_DISCHARGE,
-                                 platform::number_text(flow * (1 - a_little)), solved.number_format);
+    const auto more =
+        solve_with(survey, index, Column::TOTAL_DISCHARGE, flow * (1 + a_little), solved.number_format);
+    const auto less =
+        solve_with(survey, index, Column::TOTAL_DISCHARGE, flow * (1 - a_little), solved.number_format);
     const bool falls_after = opening_spread(more) < opening_spread(solved);
     if (!falls_after && opening_spread(solved) >= opening_spread(less)) {
         return;
@@ -114,8 +113,7 @@ void judge_clogged_slot(Survey& survey, Survey::Index index, const calculation::
     if (clogged >= 100) {
         return;
     }
-    const auto more =
-        solve_with(survey, index, Column::GRATEPERCLOG, platform::number_text(clogged), solved.number_format);
+    const auto more = solve_with(survey, index, Column::GRATEPERCLOG, clogged, solved.number_format);
     if (opening_spread(more) < opening_spread(solved)) {
         survey.report(rules::slot_falls_clogged, index,
                       "Spread at the opening falls from " + told(solved.inlet, Column::OPENSPREAD) + " to " +

@@ -6,7 +6,6 @@
 #include "engine/hydraulics/grate_types.h"
 #include "engine/solvers/TRAP_SU_RESULTS.h"
 #include "engine/units.h"
-#include "platform/number_text.h"
 #include "review/neighbor.h"
 #include "section/measures.h"
 
@@ -32,10 +31,10 @@ void judge_grate_length(Survey& survey, Survey::Index index, const calculation::
     if (!takes_frontal_flow(record) || !length || std::fabs(*length - gap) > a_little * gap) {
         return;
     }
-    const auto shorter = solve_with(survey, index, Column::INLETLENGTH,
-                                    platform::number_text(*length * (1 - a_little)), solved.number_format);
-    const auto longer = solve_with(survey, index, Column::INLETLENGTH,
-                                   platform::number_text(*length * (1 + a_little)), solved.number_format);
+    const auto shorter =
+        solve_with(survey, index, Column::INLETLENGTH, *length * (1 - a_little), solved.number_format);
+    const auto longer =
+        solve_with(survey, index, Column::INLETLENGTH, *length * (1 + a_little), solved.number_format);
     const double least =
         std::min(number_or_zero(shorter.inlet, Column::QINT), number_or_zero(longer.inlet, Column::QINT));
     if (number_or_zero(solved.inlet, Column::QINT) < least) {
@@ -60,8 +59,7 @@ void judge_rated_clogging(Survey& survey, Survey::Index index, const calculation
     }
     std::string rows;
     for (const double share : rated) {
-        const auto row = solve_with(survey, index, Column::GRATEPERCLOG, platform::number_text(share),
-                                    solved.number_format);
+        const auto row = solve_with(survey, index, Column::GRATEPERCLOG, share, solved.number_format);
         rows += (rows.empty() ? "" : ", ") + told(row.inlet, Column::DEPTHATINLET) + " with " +
                 told(row.inlet, Column::GRATEPERCLOG);
     }
@@ -77,8 +75,8 @@ void judge_rated_flow(Survey& survey, Survey::Index index, const calculation::So
     constexpr double a_little = 0.005;
     const auto& record = survey.inlet(index);
     const double flow = number_or_zero(record, Column::TOTAL_DISCHARGE);
-    const auto more = solve_with(survey, index, Column::TOTAL_DISCHARGE,
-                                 platform::number_text(flow * (1 + a_little)), solved.number_format);
+    const auto more =
+        solve_with(survey, index, Column::TOTAL_DISCHARGE, flow * (1 + a_little), solved.number_format);
     if (number_or_zero(more.inlet, Column::DEPTHATINLET) <
         number_or_zero(solved.inlet, Column::DEPTHATINLET)) {
         survey.report(rules::rating_falls, index,

@@ -1,6 +1,7 @@
 #include "review/texts.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "calculation/typeset.h"
 #include "engine/unit_constants.h"
@@ -52,6 +53,9 @@ std::string listed(const Project& project, const std::vector<std::size_t>& indic
 }
 
 std::string told_flow(double flow) {
+    if (!std::isfinite(flow)) {
+        return "more than can be told";
+    }
     return with_unit(platform::format_number(flow, engine::by_units("0.000", "0.0000")),
                      engine::Unit::discharge);
 }

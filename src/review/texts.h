@@ -26,7 +26,7 @@ std::string name_of(engine::Column column);
 std::string told(const engine::InletRecord& record, engine::Column column);
 /// The numbers of the first inlets of a list, at most so many, and how many more there are: "L1, L2 and 7 more".
 std::string listed(const Project& project, const std::vector<std::size_t>& indices, std::size_t most = 8);
-/// A flow that no column holds, with its unit.
+/// A flow that no column holds, with its unit; words for a sum that has become infinite or none.
 std::string told_flow(double flow);
 
 /// The decimals that a number of the project's units may be stored with.

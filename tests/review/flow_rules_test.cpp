@@ -91,5 +91,17 @@ TEST_F(Flows, ABypassThatLeavesTheRoadIsInTheBalance) {
     EXPECT_EQ(told_by("bypass-untaken").size(), 1U);
 }
 
+/// The sum of such flows is no number.
+TEST_F(Flows, ABalanceOfTheGreatestNumbersIsTold) {
+    for (auto& inlet : project.inlets) {
+        inlet.load(Column::DISCHARGE1, "1.7e308");
+        inlet.load(Column::QINT, "-1");
+    }
+    EXPECT_EQ(
+        told_by("balance-open"),
+        Told{"Runoff in is more than can be told, intercepted are -10.000 cfs, bypass out is 0.000 cfs: more "
+             "than can be told are unexplained."});
+}
+
 }  // namespace
 }  // namespace gullymark::review

@@ -83,5 +83,10 @@ TEST_F(Ratings, ANegativeDepthIsTold) {
     EXPECT_EQ(told_by("depth-negative"), Told{});
 }
 
+TEST_F(Ratings, AFlowThatCannotGrowIsSolvedAsTheGreatest) {
+    make_rated("0", "1.79e308");
+    EXPECT_EQ(told_by("rating-falls"), Told{});
+}
+
 }  // namespace
 }  // namespace gullymark::review
