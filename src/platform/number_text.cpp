@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
 #include <system_error>
 
@@ -245,6 +246,9 @@ NumberRead read_number(std::string_view text) {
 
 NumberLetters number_letters(double number) {
     NumberLetters written;
+    if (!std::isfinite(number)) {
+        return written;
+    }
     char* const start = written.letters.data();
     char* to = start;
     if (number == 0.0) {
@@ -264,6 +268,9 @@ std::string number_text(double number) {
 }
 
 std::string format_number(double number, std::string_view format) {
+    if (!std::isfinite(number)) {
+        return {};
+    }
     Decimal decimal = decimal_digits(number);
     const int decimals = decimals_of(format);
     round_half_away(decimal, decimals);

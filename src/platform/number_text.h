@@ -30,8 +30,8 @@ struct NumberRead {
 /// On a text outside the grammar, or a value too large for a double: `fault` says so and the number is 0.
 NumberRead read_number(std::string_view text);
 
-/// The decimal text of up to 15 significant digits of a finite `number`: "0.1", "12.5", "1E-05".
-/// Values from 1E-04 up to below 1E+15 are written without an exponent. Zero is "0", never "-0".
+/// The decimal text of up to 15 significant digits of `number`: "0.1", "12.5", "1E-05"; empty for one that is infinite or
+/// none. Values from 1E-04 up to below 1E+15 are written without an exponent. Zero is "0", never "-0".
 std::string number_text(double number);
 
 /// The decimal text of a number, in place.
@@ -51,7 +51,7 @@ NumberLetters number_letters(double number);
 /// and no minus sign before a zero. A text that is no number comes back unchanged, an empty one empty.
 std::string format_text(std::string_view text, std::string_view format);
 
-/// The same for a number that is at hand.
+/// The same for a number that is at hand; empty for one that is infinite or none.
 std::string format_number(double number, std::string_view format);
 
 /// `text` without the blanks at both ends.

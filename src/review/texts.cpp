@@ -67,7 +67,8 @@ std::vector<std::string> stored_formats() {
 
 bool is_stored_as(std::string_view text, double number, const std::vector<std::string>& formats) {
     const auto stored = number_of(text);
-    return stored && std::any_of(formats.begin(), formats.end(), [&](const std::string& format) {
+    return stored && std::isfinite(number) &&
+           std::any_of(formats.begin(), formats.end(), [&](const std::string& format) {
                return number_of(platform::format_number(number, format)) == stored;
            });
 }

@@ -31,7 +31,7 @@ std::string told_flow(double flow);
 
 /// The decimals that a number of the project's units may be stored with.
 std::vector<std::string> stored_formats();
-/// True where the text is that number, rounded in one of the formats.
+/// True where the text is that number, rounded in one of the formats; never for an infinite one.
 bool is_stored_as(std::string_view text, double number, const std::vector<std::string>& formats);
 
 }  // namespace gullymark::review

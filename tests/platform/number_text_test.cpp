@@ -120,6 +120,16 @@ TEST(NumberText, ATextThatIsNoNumberGoesThroughAFormatUnchanged) {
     }
 }
 
+/// A sum of numbers that a project may hold can be infinite, and has no digits.
+TEST(NumberText, ANumberWithoutDigitsHasNoText) {
+    for (const double number : {HUGE_VAL, -HUGE_VAL, std::nan("")}) {
+        EXPECT_EQ(number_text(number), "");
+        EXPECT_EQ(format_number(number, "0.000"), "");
+        EXPECT_EQ(number_letters(number).count, 0U);
+    }
+    EXPECT_EQ(number_text(1.7e308), "1.7E+308");
+}
+
 TEST(NumberText, TrimsBlanksAtBothEndsOnly) {
     EXPECT_EQ(trim_blanks("  a b "), "a b");
     EXPECT_EQ(trim_blanks("   "), "");

@@ -4,7 +4,11 @@
 #include <random>
 #include <set>
 
+#include "review/flow_curve.h"
 #include "review/fresh_road.h"
+#include "review/inlet_table.h"
+#include "review/road_plan.h"
+#include "review/sizing.h"
 #include "review_fixture.h"
 #include "support/case_tables.h"
 
@@ -13,7 +17,8 @@ namespace {
 
 /// What is told is whole, and on an inlet that there is.
 void expect_sound(const Project& project) {
-    for (const auto& finding : judge(project, {})) {
+    const auto findings = judge(project, {});
+    for (const auto& finding : findings) {
         EXPECT_TRUE(finding.index < project.inlets.size() || finding.index == whole_project) << finding.rule;
         EXPECT_FALSE(finding.text.empty() || finding.advice.empty()) << finding.rule;
         for (const char* none : {"nan", "inf ", "-0.000 "}) {
@@ -31,6 +36,16 @@ void expect_sound(const Project& project) {
         EXPECT_LT(index, project.inlets.size());
         EXPECT_EQ(fresh.solved, once.contains(index));
     }
+    EXPECT_EQ(plan_road(project, findings, &road).inlets.size(), project.inlets.size());
+    EXPECT_EQ(make_inlet_table(project, findings, road).rows.size(), project.inlets.size());
+}
+
+/// The pages of one inlet. They solve it many times.
+void expect_sized(const Project& project, std::size_t index) {
+    const auto area = runoff_for_length(project, index);
+    static_cast<void>(
+        size_inlet(project.inlets.at(index), project.units, area ? std::optional(area->area) : std::nullopt));
+    static_cast<void>(flow_curve(project.inlets.at(index), project.units, nullptr));
 }
 
 struct AnyText : ReviewTest {
@@ -91,6 +106,25 @@ TEST_F(AnyText, InAnyColumnIsJudged) {
                    {{engine::all_columns.at(below(engine::column_count)), any_text()}});
         }
         expect_sound(project);
+    }
+}
+
+TEST_F(AnyText, InAnyColumnIsSized) {
+    const Project sound = project;
+    for (int round = 0; round < 12; ++round) {
+        const testing::ScopedTrace trace(__FILE__, __LINE__, "round " + std::to_string(round));
+        project = sound;
+        const std::size_t index = round % 2 == 0 ? 1 : sump;
+        for (std::size_t changes = 1 + below(3); changes > 0; --changes) {
+            change(index, {{engine::all_columns.at(below(engine::column_count)), any_text()}});
+        }
+        expect_sized(project, index);
+    }
+    for (const Column column : {Column::RUNOFF_AREA, Column::INTENSITY, Column::RUNOFF_COEFF,
+                                Column::TOTAL_DISCHARGE, Column::DISCHARGE1, Column::ALLOWABLE_SPREAD}) {
+        project = sound;
+        change(1, {{column, "1.7e308"}});
+        expect_sized(project, 1);
     }
 }
 
