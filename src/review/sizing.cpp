@@ -59,7 +59,7 @@ class Sizer {
         if (row != nullptr) {
             catalogue::pick(*table, catalogue::row_text(*table, *row));
         }
-        SizedRow sized{.is_inlet = row == nullptr};
+        SizedRow sized{.standard = row};
         if (table != nullptr) {
             sized.fields = row != nullptr ? fields_of(*table, *row) : own_fields(*table);
         }

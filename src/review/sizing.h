@@ -41,7 +41,7 @@ struct LargestArea {
 
 struct SizedRow {
     std::vector<std::string> fields;  // as the table prints them; of the inlet itself its own
-    bool is_inlet = false;            // the inlet as it stands
+    const catalogue::Row* standard = nullptr;  // null: the inlet as it stands
     bool solved = false;
     std::string told;             // what the solve shows in boxes
     std::string spread;           // OPENSPREAD, ft or m
