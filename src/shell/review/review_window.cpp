@@ -31,6 +31,8 @@
 #include "shell/review/inlets_page.h"
 #include "shell/review/long_work.h"
 #include "shell/review/review_head.h"
+#include "shell/review/road_picture.h"
+#include "shell/review/sizing_page.h"
 #include "store/help.h"
 #include "store/project_session.h"
 
@@ -78,19 +80,21 @@ void ReviewWindow::build_pages() {
     findings_ = new FindingsPage;
     inlet_ = new InletPage;
     inlets_ = new InletsPage;
+    road_ = new RoadPicture;
     calculation_ = new CalculationPage;
-    // The road's picture stands behind the lists, the sizes behind the calculation.
+    sizing_ = new SizingPage;
     left_->addTab(findings_, QStringLiteral("Fi&ndings"));
     left_->addTab(inlets_, QStringLiteral("In&lets"));
+    left_->addTab(road_, QStringLiteral("&Road"));
     right_->addTab(inlet_, QStringLiteral("&Inlet"));
     right_->addTab(calculation_, QStringLiteral("Wor&ked Calculation"));
+    right_->addTab(sizing_, QStringLiteral("&Sizing"));
     findings_->picked = [this](std::size_t inlet) { set_current(inlet); };
     inlets_->picked = findings_->picked;
-    findings_->entered = [this] {
-        right_->setCurrentWidget(inlet_);
-        inlet_->setFocus();
-    };
+    road_->picked = findings_->picked;
+    findings_->entered = [this] { enter_inlet(); };
     inlets_->entered = findings_->entered;
+    road_->entered = findings_->entered;
     auto* halves = new QSplitter(Qt::Horizontal);
     halves->setObjectName(QStringLiteral("halves"));
     halves->addWidget(left_);
@@ -214,6 +218,7 @@ void ReviewWindow::take(std::unique_ptr<review::Reviewed> reviewed, bool same_fi
     head_->warn({});
     findings_->show_review(*shown_, earlier);
     inlets_->show_review(*shown_, current_);
+    road_->show_project(*shown_);
     show_current();
     tell_state();
 }
@@ -241,10 +246,19 @@ void ReviewWindow::show_current() {
         calculation_->show_inlet(*shown_, current_);
         findings_->set_current(current_);
         inlets_->set_current(current_);
+        road_->set_current(current_);
+        sizing_->show_inlet(*shown_, current_);
     } else {
         inlet_->clear();
         calculation_->clear();
+        road_->set_current(std::nullopt);
+        sizing_->clear();
     }
+}
+
+void ReviewWindow::enter_inlet() {
+    right_->setCurrentWidget(inlet_);
+    inlet_->setFocus();
 }
 
 void ReviewWindow::find() {

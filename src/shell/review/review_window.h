@@ -17,6 +17,8 @@ class FindingsPage;
 class InletPage;
 class InletsPage;
 class ReviewHead;
+class RoadPicture;
+class SizingPage;
 
 /// The reviewer's window: what was found in a project, and the inlet that is picked. It follows the file, which is only read.
 class ReviewWindow : public QMainWindow {
@@ -53,6 +55,7 @@ class ReviewWindow : public QMainWindow {
     void take(std::unique_ptr<review::Reviewed> reviewed, bool same_file);
     void set_current(std::size_t inlet);
     void show_current();
+    void enter_inlet();
     void tell_state();
 
     std::string path_;
@@ -65,8 +68,10 @@ class ReviewWindow : public QMainWindow {
     QTabWidget* right_ = nullptr;
     FindingsPage* findings_ = nullptr;
     InletsPage* inlets_ = nullptr;
+    RoadPicture* road_ = nullptr;
     InletPage* inlet_ = nullptr;
     CalculationPage* calculation_ = nullptr;
+    SizingPage* sizing_ = nullptr;
 };
 
 }  // namespace gullymark::shell

@@ -148,6 +148,11 @@ QSize RoadLegend::sizeHint() const {
     return {usual_width, heightForWidth(usual_width)};
 }
 
+void RoadLegend::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    setFixedHeight(heightForWidth(width()));
+}
+
 void RoadLegend::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const RoadColors colors = road_colors(palette());

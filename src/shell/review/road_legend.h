@@ -25,6 +25,7 @@ class RoadLegend : public QWidget {
     [[nodiscard]] QSize sizeHint() const override;
 
   protected:
+    void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 };
 

@@ -156,6 +156,7 @@ class RoadPainter {
             painter_.setPen(signs_.pen(colors_.section.ink, 1));
             const double line = curb + inward * layout_.allowable();
             painter_.drawLine(QPointF(x, line), QPointF(end, line));
+            texts_.block(strip(0, width));
             paint_spread_text(spread, strip(0, width), spread.share * layout_.allowable() > most);
         }
     }
@@ -178,7 +179,7 @@ class RoadPainter {
         const QFontMetricsF font(painter_.font());
         const QString text = to_qt(spread.text) + (is_cut ? QStringLiteral(" \u2026") : QString());
         const double width = font.horizontalAdvance(text);
-        const double x = spread.toward < 0 ? water.left() - width - 3 * unit() : water.right() + 3 * unit();
+        const double x = spread.toward < 0 ? water.left() - width - 5 * unit() : water.right() + 5 * unit();
         spread_texts_.push_back({text,
                                  {x, water.center().y() - font.height() / 2, width, font.height()},
                                  spread.beyond ? colors_.section.alarm : colors_.section.ink});

@@ -30,10 +30,21 @@ bool RoadTexts::take(const QRectF& box) {
             return false;
         }
     }
-    for (std::size_t strip = first; strip <= last; ++strip) {
+    keep(box, gap);
+    return true;
+}
+
+void RoadTexts::block(const QRectF& box) {
+    if (area_.intersects(box)) {
+        keep(box, 0);
+    }
+}
+
+void RoadTexts::keep(const QRectF& box, double gap) {
+    const std::size_t last = strip_of(box.right() + gap);
+    for (std::size_t strip = strip_of(box.left() - gap); strip <= last; ++strip) {
         taken_[strip].push_back(box);
     }
-    return true;
 }
 
 void RoadTexts::draw(const QString& text, const QRectF& box, const QColor& color) {

@@ -20,6 +20,8 @@ class RoadTexts {
   public:
     RoadTexts(QPainter& painter, const QRectF& area);
 
+    /// No text is to stand here.
+    void block(const QRectF& box);
     /// Takes a place for a text where it is free.
     [[nodiscard]] bool take(const QRectF& box);
     /// Draws a text in a place that was taken.
@@ -35,6 +37,7 @@ class RoadTexts {
 
   private:
     [[nodiscard]] std::size_t strip_of(double x) const;
+    void keep(const QRectF& box, double gap);
 
     QPainter& painter_;
     QRectF area_;
