@@ -10,6 +10,9 @@ RoadColors road_colors(const QPalette& palette) {
     const QColor& paper = colors.section.paper;
     colors.pavement = between(paper, palette.color(QPalette::Active, QPalette::Text), 0.1);
     const std::array grounds{paper, colors.pavement};
+    for (QColor* color : {&colors.section.ink, &colors.section.faint, &colors.section.alarm}) {
+        *color = readable(*color, grounds, text_contrast);
+    }
     colors.flow = readable(colors.section.surface, grounds, text_contrast);
     colors.marked = readable(palette.color(QPalette::Active, QPalette::Highlight), grounds, text_contrast);
     for (const auto severity :

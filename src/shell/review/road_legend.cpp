@@ -52,12 +52,7 @@ void paint_water(const SymbolPainter& with, const QRectF& box) {
     const double allowable = box.height() * 0.55;
     with.painter.fillRect(QRectF(box.left(), box.top(), box.width(), allowable), with.colors.section.water);
     const QRectF beyond(box.left(), box.top() + allowable, box.width(), box.height() - allowable);
-    with.painter.fillRect(beyond, with.colors.section.beyond);
-    with.painter.setPen(with.pen(with.colors.section.alarm, 1));
-    for (double x = beyond.left(); x < beyond.right(); x += 5 * with.unit) {
-        const double reach = std::min(beyond.right() - x, beyond.height());
-        with.painter.drawLine(QPointF(x, beyond.bottom()), QPointF(x + reach, beyond.bottom() - reach));
-    }
+    with.beyond(beyond);
     with.painter.setPen(with.pen(with.colors.section.ink, 1));
     with.painter.drawLine(beyond.topLeft(), beyond.topRight());
 }

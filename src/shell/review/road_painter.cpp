@@ -151,23 +151,13 @@ class RoadPainter {
             const double width = std::min(spread.share * layout_.allowable(), most);
             painter_.fillRect(strip(0, std::min(width, layout_.allowable())), colors_.section.water);
             if (width > layout_.allowable()) {
-                paint_beyond(strip(layout_.allowable(), width));
+                signs_.beyond(strip(layout_.allowable(), width));
             }
             painter_.setPen(signs_.pen(colors_.section.ink, 1));
             const double line = curb + inward * layout_.allowable();
             painter_.drawLine(QPointF(x, line), QPointF(end, line));
             texts_.block(strip(0, width));
             paint_spread_text(spread, strip(0, width), spread.share * layout_.allowable() > most);
-        }
-    }
-
-    void paint_beyond(const QRectF& box) {
-        painter_.fillRect(box, colors_.section.beyond);
-        painter_.setPen(signs_.pen(colors_.section.alarm, 1));
-        const double gap = 5 * unit();
-        for (double x = box.left(); x < box.right(); x += gap) {
-            const double reach = std::min(box.right() - x, box.height());
-            painter_.drawLine(QPointF(x, box.bottom()), QPointF(x + reach, box.bottom() - reach));
         }
     }
 

@@ -20,6 +20,7 @@ QToolButton* command(const char* name, const QString& caption, const QString& ti
     button->setText(caption);
     button->setToolTip(tip);
     button->setAccessibleName(tip);
+    button->setToolButtonStyle(Qt::ToolButtonTextOnly);
     button->setAutoRaise(true);
     return button;
 }

@@ -91,6 +91,18 @@ void SymbolPainter::mark(const QPointF& at, double size, WaterMark mark) const {
     }
 }
 
+void SymbolPainter::beyond(const QRectF& box) const {
+    painter.fillRect(box, colors.section.beyond);
+    painter.setPen(pen(colors.section.alarm, 1));
+    const double gap = 5 * unit;
+    const int lines = static_cast<int>(box.width() / gap) + 1;
+    for (int i = 0; i < lines; ++i) {
+        const double x = box.left() + i * gap;
+        const double reach = std::min(box.right() - x, box.height());
+        painter.drawLine(QPointF(x, box.bottom()), QPointF(x + reach, box.bottom() - reach));
+    }
+}
+
 void SymbolPainter::severity(const QPointF& at, double size, review::Severity severity) const {
     painter.setPen(Qt::NoPen);
     painter.setBrush(colors.of(severity));

@@ -29,6 +29,9 @@ struct SymbolPainter {
 
     void mark(const QPointF& at, double size, WaterMark mark) const;
 
+    /// Water beyond the allowable spread: another color, and hatched.
+    void beyond(const QRectF& box) const;
+
     /// The sign of a severity: an octagon, a triangle, a disk.
     void severity(const QPointF& at, double size, review::Severity severity) const;
 
