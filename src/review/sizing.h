@@ -40,7 +40,7 @@ struct LargestArea {
 };
 
 struct SizedRow {
-    std::vector<std::string> fields;  // as the table prints them; of the inlet itself its own
+    std::vector<std::string> fields;           // as the table prints them; of the inlet itself its own
     const catalogue::Row* standard = nullptr;  // null: the inlet as it stands
     bool solved = false;
     std::string told;             // what the solve shows in boxes

@@ -15,7 +15,6 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
-#include "catalogue/standards.h"
 #include "engine/unit_constants.h"
 #include "engine/units.h"
 #include "platform/number_text.h"
@@ -172,8 +171,8 @@ void SizingPage::work_out_when_seen() {
     if (waiting_ && isVisible() && reviewed_ != nullptr) {
         waiting_ = false;
         take_runoff();
-        tell_what_it_is();
         work_out();
+        tell_what_it_is();
     }
 }
 
@@ -209,7 +208,7 @@ std::optional<double> SizingPage::area_for_length() const {
 void SizingPage::tell_what_it_is() {
     const auto& type = inlet().text(Column::INLET_TYPE);
     const auto& location = inlet().text(Column::INLET_LOCATION);
-    const auto* const table = catalogue::table_for(location, type);
+    const auto* const table = model_->sizing().table;
     QString title = "Inlet " + to_qt(review::told(inlet(), Column::INLET_NUMBER));
     if (table != nullptr) {
         title += ": " + to_qt(table->heading[0]) +
