@@ -11,6 +11,9 @@ spread, depth and flow: curb, grate, combination and slotted inlets and grates
 in a ditch, on a continuous grade or in a sump. It is built around the standard
 inlets of the Alabama Department of Transportation.
 .
+A second program, gullymark-review, checks a project, which it only reads: a
+double click on a project opens it there.
+.
 Its two reports are shown in LibreOffice Calc, its help in a viewer of .chm
 files; all else works without them.")
 set(CPACK_DEBIAN_PACKAGE_SECTION science)

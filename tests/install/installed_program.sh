@@ -29,13 +29,16 @@ lib/gullymarkal/GullymarkAL10.rdb
 lib/gullymarkal/INLETDESIGNFORMAL.xlr
 lib/gullymarkal/INLET_REPORTAL.xlr
 lib/gullymarkal/gullymark-review
+share/applications/gullymark-review.desktop
 share/applications/gullymarkal.desktop
 share/doc/gullymarkal/copyright
+share/icons/hicolor/scalable/apps/gullymark-review.svg
 share/icons/hicolor/scalable/apps/gullymarkal.svg
 share/icons/hicolor/scalable/mimetypes/application-x-gullymarkal.svg
 share/man/man1/GullymarkAL.1
 share/man/man1/gullymark-review.1
 share/metainfo/io.github.gullymarkal.GullymarkAL.metainfo.xml
+share/metainfo/io.github.gullymarkal.Review.metainfo.xml
 share/mime/packages/gullymarkal.xml
 END
   [ ! -e "$build/bin/gullymark-office" ] || echo lib/gullymarkal/gullymark-office
@@ -77,6 +80,21 @@ look_at_file_type() {
   known "$work/foreign" application/vnd.sqlite3
 }
 
+# A double click opens a project for the reviewer, and never for the designer: that program takes no file.
+look_at_double_click() {
+  command -v gio >/dev/null && [ -e "$share/mime/mime.cache" ] && [ -e "$share/applications/mimeinfo.cache" ] || return
+  local -x HOME=$work XDG_CONFIG_HOME=$work/none PATH=$work/usr/bin:$PATH
+  gio mime application/x-gullymarkal >"$work/log" 2>&1
+  grep -q '^Default application .*: gullymark-review\.desktop$' "$work/log" || fail "a project is not opened by gullymark-review"
+  ! grep -q 'gullymarkal\.desktop' "$work/log" || fail "a project is offered to the program for the designer"
+  if command -v xdg-mime >/dev/null; then
+    xdg-mime query default application/x-gullymarkal >"$work/log" 2>/dev/null
+    [ "$(cat "$work/log")" = gullymark-review.desktop ] || fail "xdg-mime does not name gullymark-review"
+  fi
+  [ -x "$work/usr/bin/$(sed -n 's/^Exec=\([^ ]*\) %f$/\1/p' "$share/applications/gullymark-review.desktop")" ] ||
+    fail "what a double click runs is not installed"
+}
+
 check_project() {
   "$work/usr/bin/gullymark-review" --check "$source/tests/files/metric.gmk" >"$work/log" 2>&1
   [ $? -le 1 ] || fail "gullymark-review cannot read a project"
@@ -93,10 +111,12 @@ make_project() {
 
 install_everything
 look_at_files
-valid desktop-file-validate "$share/applications/gullymarkal.desktop"
-valid appstreamcli validate --no-net "$share/metainfo/io.github.gullymarkal.GullymarkAL.metainfo.xml"
+valid desktop-file-validate "$share"/applications/*.desktop
+valid appstreamcli validate --no-net "$share"/metainfo/*.xml
+valid update-desktop-database "$share/applications"
 valid update-mime-database "$share/mime"
 look_at_file_type
+look_at_double_click
 check_project
 start_display
 start_program
