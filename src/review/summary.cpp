@@ -48,14 +48,16 @@ std::string numbers_line(const Reviewed& reviewed, std::size_t inlet, bool fresh
            with_unit(fresh ? ListColumn::fresh_bypass : ListColumn::bypass);
 }
 
-std::string obstacle_line(const FreshRoad& fresh) {
-    if (fresh.obstacles.empty()) {
+std::string obstacle_line(const Reviewed& reviewed) {
+    const auto& obstacles = reviewed.fresh.obstacles;
+    if (obstacles.empty()) {
         return "";
     }
     constexpr std::size_t most_characters = 300;
-    const std::string first = platform::first_characters(fresh.obstacles.front().text, most_characters);
-    const std::size_t more = fresh.obstacles.size() - 1;
-    return "What cannot be brought up to date: " + first +
+    const std::string first = platform::first_characters(obstacles.front().text, most_characters);
+    const std::size_t more = obstacles.size() - 1;
+    return "What cannot be brought up to date: inlet " +
+           number_of_inlet(reviewed.project, obstacles.front().index) + ". " + first +
            (more == 0 ? "" : " And " + std::to_string(more) + " more of the kind.");
 }
 

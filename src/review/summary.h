@@ -19,7 +19,8 @@ std::string to_do_line(const Reviewed& reviewed, std::size_t most);
 /// "total 1.128 cfs, spread 3.945 ft, bypass 0.351 cfs" as an inlet stores them, or as they would be.
 std::string numbers_line(const Reviewed& reviewed, std::size_t inlet, bool fresh);
 
-/// What keeps a part of the road from being brought up to date: the first obstacle, and how many more there are. Empty for none.
-std::string obstacle_line(const FreshRoad& fresh);
+/// What keeps a part of the road from being brought up to date: the first obstacle with its inlet, and how many more there are.
+/// Empty for none.
+std::string obstacle_line(const Reviewed& reviewed);
 
 }  // namespace gullymark::review

@@ -104,10 +104,11 @@ TEST_F(InletListTest, HeadingsTellTheUnitsInForce) {
 
 TEST_F(InletListTest, AnObstacleIsTold) {
     change(7, {{Column::PREINLET1, "X9"}});
-    const auto line = obstacle_line(reviewed().fresh);
-    EXPECT_TRUE(line.starts_with("What cannot be brought up to date: ")) << line;
+    const auto line = obstacle_line(reviewed());
+    EXPECT_TRUE(line.starts_with("What cannot be brought up to date: inlet R3. ")) << line;
     EXPECT_NE(line.find("X9"), std::string::npos) << line;
-    EXPECT_EQ(obstacle_line({}), "");
+    change(7, {{Column::PREINLET1, "R2"}});
+    EXPECT_EQ(obstacle_line(reviewed()), "");
 }
 
 TEST_F(InletListTest, WhatIsMissingInTheBalanceIsTold) {

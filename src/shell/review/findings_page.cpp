@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QCheckBox>
+#include <QEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
@@ -215,6 +216,13 @@ void FindingsPage::set_current(std::size_t inlet) {
     if (const Finding* finding = current(); finding == nullptr || finding->index != inlet) {
         table_->mark(model_->first_row_on(inlet));
         show_details();
+    }
+}
+
+void FindingsPage::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && shown_ != nullptr) {
+        show_details();  // the sign of the severity is a picture
     }
 }
 

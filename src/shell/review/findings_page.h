@@ -42,6 +42,9 @@ class FindingsPage : public QWidget {
     /// "12 of 30 findings".
     [[nodiscard]] QString shown_of_all() const;
 
+  protected:
+    void changeEvent(QEvent* event) override;
+
   private:
     void build_choice(class QLayout& layout);
     void choose();

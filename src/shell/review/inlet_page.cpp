@@ -120,7 +120,9 @@ void InletPage::show_inlet(const review::Reviewed& reviewed, std::size_t inlet) 
     place_->setVisible(!place_->text().isEmpty());
     QString numbers = "Stored: " + to_qt(review::numbers_line(reviewed, inlet, false));
     if (review::is_stale(reviewed, inlet)) {
-        numbers += "\nBrought up to date: " + to_qt(review::numbers_line(reviewed, inlet, true));
+        const QString fresh = to_qt(review::numbers_line(reviewed, inlet, true));
+        numbers +=
+            "\nBrought up to date: " + (numbers.endsWith(": " + fresh) ? QStringLiteral("the same") : fresh);
     }
     numbers_->setText(numbers);
     numbers_->show();

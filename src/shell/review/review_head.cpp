@@ -51,6 +51,7 @@ ReviewHead::ReviewHead(QWidget* parent)
     bold.setBold(true);
     project_->setFont(bold);
     project_->setText(QStringLiteral("No project is open"));
+    counts_->setText(QStringLiteral("Open one with Ctrl+O, or drop its file on this window."));
     warning_text_->setFont(bold);
     auto* beside = new QHBoxLayout(warning_);
     beside->setContentsMargins({});
@@ -74,7 +75,7 @@ void ReviewHead::show_project(const review::Reviewed& reviewed, const QString& f
     constexpr std::size_t most_told = 25;
     balance_->setText(to_qt(review::balance_line(reviewed.balance)));
     to_do_->setText(to_qt(review::to_do_line(reviewed, most_told)));
-    const QString obstacle = to_qt(review::obstacle_line(reviewed.fresh));
+    const QString obstacle = to_qt(review::obstacle_line(reviewed));
     if (!obstacle.isEmpty()) {
         to_do_->setText(to_do_->text() + ".  " + obstacle);
     }
