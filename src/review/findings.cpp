@@ -41,6 +41,7 @@ std::optional<std::vector<Finding>> judge(const Project& project, const Limits& 
         judge_ratings(survey, index, solved);
     }
     judge_sump_depths(survey);
+    judge_idle_texts(survey);
     judge_loops(survey);
     judge_balance(survey);
     return survey.take_findings();

@@ -71,40 +71,49 @@ void judge_numbers(Survey& survey, Survey::Index index, const calculation::Solve
     }
 }
 
-/// Columns of the inlet's data whose fields are emptied for a kind that they mean nothing to, and the flow that only a sump
-/// takes from its right side.
-constexpr std::array emptied_columns{
-    Column::PREINLET2,    Column::DISCHARGE2,  Column::CARRYOVER2,    Column::LONGSLOPE,  Column::PAVXSLOPE,
-    Column::INLETXSLOPE,  Column::INLETLENGTH, Column::OPENLEN_GRATE, Column::GRATETYPE,  Column::THROATYPE,
-    Column::SLOTWIDTH,    Column::GRATEAREA,   Column::GRATEPERI,     Column::GRATEWIDTH, Column::THROATANGLE,
-    Column::HEIGHTOFCURB, Column::RSCOPERATIO, Column::LSCOPERATIO,   Column::MANNINGS,   Column::GUTWIDTH,
-    Column::GUTXSLOPE,    Column::LOCDEPWIDTH};
+/// The flow that only a sump takes from its right side.
+constexpr std::array right_side{Column::PREINLET2, Column::DISCHARGE2, Column::CARRYOVER2};
 
-bool means_something(const engine::InletRecord& record, Column column) {
-    const bool counts_in_sump =
-        column == Column::PREINLET2 || column == Column::DISCHARGE2 || column == Column::CARRYOVER2;
-    return (counts_in_sump && section::in_sump(record)) || section::is_input(column, record);
+/// Columns of the inlet's data whose fields are emptied for a kind that they mean nothing to, once its page is seen.
+constexpr std::array emptied_columns{
+    Column::LONGSLOPE,  Column::PAVXSLOPE,   Column::INLETXSLOPE,  Column::INLETLENGTH, Column::OPENLEN_GRATE,
+    Column::GRATETYPE,  Column::THROATYPE,   Column::SLOTWIDTH,    Column::GRATEAREA,   Column::GRATEPERI,
+    Column::GRATEWIDTH, Column::THROATANGLE, Column::HEIGHTOFCURB, Column::RSCOPERATIO, Column::LSCOPERATIO,
+    Column::MANNINGS,   Column::GUTWIDTH,    Column::GUTXSLOPE,    Column::LOCDEPWIDTH};
+
+bool holds_something(const engine::InletRecord& record, Column column) {
+    const auto& text = record.text(column);
+    return !text.empty() && number_of(text) != 0.0;
 }
 
-void judge_texts(Survey& survey, Survey::Index index) {
+void add_text(std::string& list, const engine::InletRecord& record, Column column) {
+    list += (list.empty() ? "" : ", ") + name_of(column) + ' ' + told(record, column);
+}
+
+void judge_right_side(Survey& survey, Survey::Index index) {
     const auto& record = survey.inlet(index);
-    if (section::inlet_of(record) == section::Inlet::unknown) {
-        return;
-    }
     std::string list;
-    for (const Column column : emptied_columns) {
-        const auto& text = record.text(column);
-        if (!text.empty() && number_of(text) != 0.0 && !means_something(record, column)) {
-            list += (list.empty() ? "" : ", ") + name_of(column) + ' ' + told(record, column);
+    for (const Column column : right_side) {
+        if (!section::in_sump(record) && holds_something(record, column)) {
+            add_text(list, record, column);
         }
     }
     if (!list.empty()) {
-        survey.report(
-            rules::text_without_effect, index,
-            "Stored, and without effect for this type and location: " + list + ".",
-            "Check type and location; where they are right, open the inlet and go through its pages, "
-            "which empties what does not apply.");
+        survey.report(rules::flow_without_effect, index,
+                      "Stored, and without effect on a grade: " + list + ".",
+                      "Check the location; where it is right, make sure that another inlet takes this flow.");
     }
+}
+
+/// The texts of the inlet's data that mean nothing to its kind.
+std::string texts_without_effect(const engine::InletRecord& record) {
+    std::string list;
+    for (const Column column : emptied_columns) {
+        if (holds_something(record, column) && !section::is_input(column, record)) {
+            add_text(list, record, column);
+        }
+    }
+    return section::inlet_of(record) == section::Inlet::unknown ? std::string() : list;
 }
 
 }  // namespace
@@ -125,7 +134,7 @@ void judge_record(Survey& survey, Survey::Index index, const calculation::Solved
                       "Open the inlet and pick its location from the list.");
     }
     judge_numbers(survey, index, solved);
-    judge_texts(survey, index);
+    judge_right_side(survey, index);
     const auto& number = record.text(Column::INLET_NUMBER);
     if (const auto& same = survey.links().with_number(number); same.size() > 1 && same.front() == index) {
         survey.report(rules::number_not_unique, index,
@@ -133,6 +142,31 @@ void judge_record(Survey& survey, Survey::Index index, const calculation::Solved
                           told(record, Column::INLET_NUMBER) + ".",
                       "Renumber all but one of them.");
     }
+}
+
+void judge_idle_texts(Survey& survey) {
+    std::vector<Survey::Index> idle;
+    std::string first;
+    for (Survey::Index index = 0; index < survey.count(); ++index) {
+        const auto list = texts_without_effect(survey.inlet(index));
+        if (!list.empty()) {
+            first = idle.empty() ? list : first;
+            idle.push_back(index);
+        }
+    }
+    if (idle.empty()) {
+        return;
+    }
+    constexpr std::size_t most_named = 50;
+    const bool is_one = idle.size() == 1;
+    survey.report(
+        rules::text_without_effect, is_one ? idle.front() : whole_project,
+        is_one ? "Stored, and without effect for this type and location: " + first + "."
+               : "At " + std::to_string(idle.size()) +
+                     " inlets texts are stored that are without effect for their type and location: " +
+                     listed(survey.project(), idle, most_named) + ". The first of them has " + first + ".",
+        "Check type and location; where they are right, open the inlet and go through its pages, "
+        "which empties what does not apply.");
 }
 
 }  // namespace gullymark::review

@@ -50,7 +50,8 @@ inline constexpr Rule slot_falls{"slot-falls", Severity::doubtful, "The spread a
 inline constexpr Rule water_without_spread{"water-without-spread", Severity::doubtful, "Water stands at a combination in a sump, and its spread is 0."};
 inline constexpr Rule slot_falls_clogged{"slot-falls-clogged", Severity::doubtful, "The spread at a slot in a sump falls as more of it is clogged."};
 inline constexpr Rule gutter_drop_omitted{"gutter-drop-omitted", Severity::doubtful, "The depth at the curb of sumps leaves out the drop of the gutter; told once."};
-inline constexpr Rule text_without_effect{"text-without-effect", Severity::doubtful, "Columns that mean nothing to the kind of an inlet hold texts."};
+inline constexpr Rule text_without_effect{"text-without-effect", Severity::doubtful, "Columns that mean nothing to the kind of an inlet hold texts; told once."};
+inline constexpr Rule flow_without_effect{"flow-without-effect", Severity::doubtful, "An inlet on a grade holds flow or a previous inlet of a right side, which does not count."};
 inline constexpr Rule direction_against_stations{"direction-against-stations", Severity::doubtful, "The previous inlet does not stand where the flow direction says that the flow comes from."};
 inline constexpr Rule bypass_turns_back{"bypass-turns-back", Severity::doubtful, "By the stations the bypass turns back at an inlet on a grade."};
 inline constexpr Rule sump_fed_from_one_side{"sump-fed-from-one-side", Severity::doubtful, "Both previous inlets of a sump stand on one side of it."};

@@ -42,6 +42,7 @@ inline constexpr auto advices = std::to_array<std::pair<std::string_view, std::s
     {"slot-falls-clogged", "Rely on the greater spread."},
     {"gutter-drop-omitted", "Add what the gutter falls: its width times its slope above that of the pavement."},
     {"text-without-effect", "Check type and location; where they are right, open the inlet and go through its pages, which empties what does not apply."},
+    {"flow-without-effect", "Check the location; where it is right, make sure that another inlet takes this flow."},
     {"direction-against-stations", "Check the flow direction, the stations, and which inlet comes first."},
     {"bypass-turns-back", "Check the stations, and which inlet comes first."},
     {"sump-fed-from-one-side", "Check the stations, and the previous inlets of both sides."},

@@ -30,7 +30,7 @@ TEST_F(Chain, BothSidesOfASumpAreLookedAt) {
 
 TEST_F(Chain, TheRightSideOfAGradeDoesNotCount) {
     change(1, {{Column::CARRYOVER2, "0.111"}, {Column::PREINLET2, "none"}});
-    EXPECT_EQ(found(), Told{"text-without-effect L2"});
+    EXPECT_EQ(found(), Told{"flow-without-effect L2"});
 }
 
 TEST_F(Chain, ABypassThatIsBlankHandsOnZero) {

@@ -40,7 +40,7 @@ TEST_F(Flows, TheRightSideCountsInASumpAlone) {
              "0.1000 Ac x 0.7500 gives 0.450 cfs."});
     change(sump, {{Column::DISCHARGE2, "0.450"}});
     change(0, {{Column::DISCHARGE2, "0.451"}});
-    EXPECT_EQ(found(), Told{"text-without-effect L1"});
+    EXPECT_EQ(found(), Told{"flow-without-effect L1"});
 }
 
 TEST_F(Flows, ATotalThatIsNotTheSumIsTold) {

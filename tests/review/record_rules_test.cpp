@@ -73,14 +73,30 @@ TEST_F(Records, ADashThatAStandardDoesNotComputeWithIsNotTold) {
 }
 
 TEST_F(Records, TextsThatTheKindDoesNotUseAreToldTogether) {
-    change(0,
-           {{Column::SLOTWIDTH, "4.00"}, {Column::GRATETYPE, "Reticuline"}, {Column::DISCHARGE2, "5.400"}});
+    change(0, {{Column::SLOTWIDTH, "4.00"}, {Column::GRATETYPE, "Reticuline"}});
     EXPECT_EQ(told_by("text-without-effect"),
-              Told{"L1: Stored, and without effect for this type and location: Discharge of the right side "
-                   "5.400 cfs, Type of the grate Reticuline, Width "
-                   "of the slot 4.00 in."});
-    change(0, {{Column::SLOTWIDTH, "0.00"}, {Column::GRATETYPE, ""}, {Column::DISCHARGE2, "0.000"}});
+              Told{"L1: Stored, and without effect for this type and location: Type of the grate Reticuline, "
+                   "Width of the slot 4.00 in."});
+    change(0, {{Column::SLOTWIDTH, "0.00"}, {Column::GRATETYPE, ""}});
     EXPECT_EQ(told_by("text-without-effect"), Told{});
+}
+
+/// Inlets whose data nobody has looked at hold the texts of a new one: one finding names them all.
+TEST_F(Records, TextsThatManyKindsDoNotUseAreToldOnce) {
+    change(0, {{Column::SLOTWIDTH, "4.00"}});
+    change(2, {{Column::SLOTWIDTH, "5.00"}});
+    EXPECT_EQ(
+        told_by("text-without-effect"),
+        Told{"At 2 inlets texts are stored that are without effect for their type and location: L1, L3. The "
+             "first of them has Width of the slot 4.00 in."});
+}
+
+TEST_F(Records, FlowFromTheRightSideOfAGradeIsTold) {
+    change(0, {{Column::DISCHARGE2, "5.400"}, {Column::CARRYOVER2, "0.0"}});
+    EXPECT_EQ(told_by("flow-without-effect"),
+              Told{"L1: Stored, and without effect on a grade: Discharge of the right side 5.400 cfs."});
+    change(0, {{Column::DISCHARGE2, "0.000"}});
+    EXPECT_EQ(told_by("flow-without-effect"), Told{});
 }
 
 TEST_F(Records, TheSameTextsCountForAnotherKind) {
