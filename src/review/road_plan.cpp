@@ -5,6 +5,7 @@
 #include <cmath>
 #include <map>
 #include <tuple>
+#include <utility>
 
 #include "calculation/units_in_force.h"
 #include "engine/inlet_flow.h"
@@ -193,6 +194,31 @@ RoadPlan plan_road(const Project& project, const std::vector<Finding>& findings,
     draw_lost_water(plan, project, findings);
     plan.station_length = station_length_of(plan.inlets);
     return plan;
+}
+
+std::vector<Stretch> road_stretches(const RoadPlan& plan, std::size_t most) {
+    most = std::max<std::size_t>(most, 1);
+    std::vector<std::size_t> order = plan.along;
+    std::ranges::stable_sort(order, {}, [&plan](std::size_t i) { return plan.inlets[i].at; });
+    std::vector<Stretch> stretches;
+    std::map<std::pair<std::size_t, Across>, std::size_t> counts;
+    double from = plan.from;
+    double last = plan.from;
+    for (const std::size_t index : order) {
+        const auto& inlet = plan.inlets[index];
+        auto* count = &counts[{inlet.lane, inlet.across}];
+        if (*count == most && inlet.at > last) {
+            const double border = last + (inlet.at - last) / 2;
+            stretches.push_back({.from = from, .to = border});
+            from = border;
+            counts.clear();
+            count = &counts[{inlet.lane, inlet.across}];
+        }
+        *count = std::min(*count + 1, most);
+        last = inlet.at;
+    }
+    stretches.push_back({.from = from, .to = plan.to});
+    return stretches;
 }
 
 namespace {

@@ -20,6 +20,15 @@ inline constexpr std::size_t most_lanes = 12;
 RoadPlan plan_road(const Project& project, const std::vector<Finding>& findings,
                    const FreshRoad* fresh = nullptr);
 
+struct Stretch {
+    double from = 0;
+    double to = 1;  // greater than `from`
+};
+
+/// The road in stretches for strips of paper, one behind the other and together all of it: each has at most so many inlets of
+/// a side of a lane (at least 1), but for those on one station, which stay together.
+std::vector<Stretch> road_stretches(const RoadPlan& plan, std::size_t most);
+
 struct Tick {
     double at = 0;
     std::string text;  // as a station: "12+50"

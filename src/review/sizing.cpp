@@ -54,6 +54,8 @@ class Sizer {
           allowable_(number_or_zero(inlet, Column::ALLOWABLE_SPREAD)),
           area_for_length_(area_for_length.value_or(0.0)) {}
 
+    [[nodiscard]] bool has_area() const { return runoff_.has_area(); }
+
     SizedRow work_out(const catalogue::Table* table, const catalogue::Row* row) {
         trials_.open(inlet_);
         if (row != nullptr) {
@@ -199,6 +201,7 @@ Sizing size_inlet(const engine::InletRecord& inlet, const std::string& units,
         .in_sump = section::in_sump(inlet),
         .has_spread = section::inlet_of(inlet) != section::Inlet::ditch};
     Sizer sizer(inlet, units, area_for_length);
+    sizing.has_area = sizer.has_area();
     sizing.rows.push_back(sizer.work_out(sizing.table, nullptr));
     if (sizing.table != nullptr) {
         for (const auto& row : sizing.table->rows) {

@@ -60,6 +60,7 @@ struct Sizing {
     const catalogue::Table* table = nullptr;  // null: there is none for this type and location
     bool in_sump = false;
     bool has_spread = false;     // false for an inlet in a ditch
+    bool has_area = false;       // a discharge follows from a runoff area, which can be searched
     std::vector<SizedRow> rows;  // the inlet itself, then the standards in the order of the table
 };
 

@@ -242,6 +242,26 @@ TEST_F(RoadPlanTest, HasRoundStationsForTicks) {
     EXPECT_LE(station_ticks(road, 0, 1e7, 8).size(), 8U);
 }
 
+TEST_F(RoadPlanTest, IsCutIntoStretchesThatHoldSoManyInletsOfASide) {
+    const auto road = plan();
+    EXPECT_EQ(road_stretches(road, 100).size(), 1U);
+    const auto stretches = road_stretches(road, 2);
+    ASSERT_EQ(stretches.size(), 5U) << "five on the left up to 14+00, then the sump and four on the right";
+    EXPECT_EQ(stretches.front().from, road.from);
+    EXPECT_EQ(stretches.front().to, 1150) << "between the second and the third inlet";
+    EXPECT_EQ(stretches.back().to, road.to);
+    for (std::size_t i = 1; i < stretches.size(); ++i) {
+        EXPECT_EQ(stretches[i].from, stretches[i - 1].to);
+        EXPECT_LT(stretches[i].from, stretches[i].to);
+    }
+    for (std::size_t i = 0; i < 10; ++i) {
+        change(i, {{Column::STATION, "10+00"}});
+    }
+    EXPECT_EQ(road_stretches(plan(), 2).size(), 1U) << "all on one station";
+    project.inlets.clear();
+    EXPECT_EQ(road_stretches(plan(), 2).size(), 1U);
+}
+
 TEST_F(RoadPlanTest, ReadsTheLengthOfAStationFromTheStations) {
     EXPECT_EQ(plan().station_length, 100);
     change(0, {{Column::STATION, "1+250.5"}});

@@ -136,7 +136,9 @@ TEST_F(SizingTest, LeavesASideOfASumpWhoseDischargeIsTypedAsItIs) {
     const auto inlet = size(sump).rows.front();
     EXPECT_EQ(inlet.area.left, "");
     EXPECT_GT(platform::read_number(inlet.area.right).number, 0.1);
+    EXPECT_TRUE(size(sump).has_area);
     change(sump, {{Column::RDISCHARGE_OVERRIDE, "YES"}});
+    EXPECT_FALSE(size(sump).has_area);
     EXPECT_EQ(size(sump).rows.front().area.kind, LargestArea::Kind::none);
 }
 

@@ -1,3 +1,4 @@
+#include <QClipboard>
 #include <QTabWidget>
 
 #include "review/made_road.h"
@@ -43,6 +44,14 @@ TEST_F(RoadAndSizing, FollowASaveOfTheDesigner) {
     change(3, {{Column::PREINLET1, ""}, {Column::CARRYOVER1, "0.0"}});
     save();
     EXPECT_TRUE(comes([this] { return road().plan().inlets[2].loses_water; }));
+}
+
+TEST_F(RoadAndSizing, CopyTheRowOfTheListThatHasTheFocus) {
+    show_pages();
+    find<QTableView>("sizing").setFocus();
+    press(*window, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_THAT(QGuiApplication::clipboard()->text().toStdString(),
+                testing::StartsWith("Allowable spread\tInlet Std."));
 }
 
 TEST_F(RoadAndSizing, GoToTheInletByEnter) {

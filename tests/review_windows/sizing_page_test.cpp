@@ -1,6 +1,8 @@
 #include "shell/review/sizing_page.h"
 
 #include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMenu>
 
 #include "review/made_road.h"
 #include "review_pictures.h"
@@ -138,6 +140,29 @@ TEST_F(SizingPageTest, TellsWhatASlottedInletAndADitchHaveNot) {
     EXPECT_EQ(cell(0, "Allowable spread"), "\u2013");
     EXPECT_FALSE(find<QLineEdit>("sizing_area").isVisible());
     EXPECT_THAT(headings(), testing::Not(testing::Contains("Largest area [Ac]")));
+}
+
+TEST_F(SizingPageTest, TellsWhyNoAreaIsSearched) {
+    reviewed.project.inlets[10].load(Column::LDISCHARGE_OVERRIDE, "YES");
+    show(10);
+    EXPECT_THAT(find<QLabel>("sizing_note").text().toStdString(),
+                testing::StartsWith("No discharge follows from a runoff area here: it is typed,"));
+    EXPECT_EQ(cell(1, "Largest area [Ac]"), "\u2013");
+}
+
+TEST_F(SizingPageTest, CopiesARowByItsMenu) {
+    show(10);
+    QGuiApplication::clipboard()->setText("before");
+    QTimer::singleShot(50, [] {
+        auto* menu = dynamic_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        QTest::mouseClick(menu, Qt::LeftButton, {},
+                          menu->actionGeometry(menu->actions().constFirst()).center());
+    });
+    const QPoint at(40, 20);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, at, table().viewport()->mapToGlobal(at));
+    QCoreApplication::sendEvent(table().viewport(), &event);
+    EXPECT_THAT(QGuiApplication::clipboard()->text().toStdString(), testing::HasSubstr("\tthis inlet\t"));
 }
 
 TEST_F(SizingPageTest, ShowsBothAreasOfASump) {

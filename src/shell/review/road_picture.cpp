@@ -63,6 +63,9 @@ void RoadPicture::build_commands(QLayout& layout) {
     connect(signs, &QToolButton::toggled, legend_, &QWidget::setVisible);
     auto* hint = new QLabel(QStringLiteral("Along the road to scale, across it not"));
     hint->setObjectName(QStringLiteral("road_scale"));
+    hint->setToolTip(QStringLiteral(
+        "Left and Right pick the next inlet, Home and End the first and the last, Enter shows it.\n"
+        "Drag, Shift+arrows or Shift+wheel pan; the wheel, + and - zoom; Ctrl+0 shows the whole road."));
     hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     hint->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     for (QWidget* each : {static_cast<QWidget*>(closer), static_cast<QWidget*>(farther),

@@ -224,6 +224,12 @@ void SizingPage::tell_what_it_is() {
             "The table is in feet. A pick writes its numbers as they stand, which then count as meters: so "
             "they do here.");
     }
+    if (model_->sizing().has_spread && !model_->sizing().has_area) {
+        notes << QStringLiteral(
+            "No discharge follows from a runoff area here: it is typed, or its area, coefficient or "
+            "intensity "
+            "is not above 0. So no area is searched.");
+    }
     if (review::number_or_zero(inlet(), Column::ALLOWABLE_SPREAD) <= 0) {
         notes << QStringLiteral("The inlet has no allowable spread.");
     }
