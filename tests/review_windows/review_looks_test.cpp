@@ -1,6 +1,10 @@
 // Every page of the reviewer's window on light and dark palettes, on small screens, and with keys alone.
 
+#include <map>
+
+#include <QAbstractButton>
 #include <QAccessible>
+#include <QMenuBar>
 #include <QScreen>
 #include <QTabWidget>
 
@@ -103,6 +107,34 @@ TEST_F(ReviewLooksTest, TheWindowFitsTheScreen) {
         EXPECT_LE(window->height(), room.height()) << name;
         EXPECT_LE(window->minimumSizeHint().width(), room.width()) << name;
         EXPECT_LE(window->minimumSizeHint().height(), room.height()) << name;
+    });
+}
+
+/// Each letter that goes with Alt leads to one place.
+TEST_F(ReviewLooksTest, NoLetterLeadsToTwoPlaces) {
+    visit_pages([&](const std::string& name) {
+        std::map<QString, QString> letters;
+        const auto take = [&](const QString& caption) {
+            if (const QString keys = QKeySequence::mnemonic(caption).toString(); !keys.isEmpty()) {
+                EXPECT_TRUE(letters.try_emplace(keys, caption).second)
+                    << name << ": " << keys.toStdString() << " leads to " << letters[keys].toStdString()
+                    << " and " << caption.toStdString();
+            }
+        };
+        for (const QAction* menu : window->menuBar()->actions()) {
+            take(menu->text());
+        }
+        for (const auto* tab_widget : window->findChildren<QTabWidget*>()) {
+            for (int tab = 0; tab < tab_widget->count(); ++tab) {
+                take(tab_widget->tabText(tab));
+            }
+        }
+        for (const auto* button : window->findChildren<QAbstractButton*>()) {
+            take(button->isVisible() ? button->text() : QString());
+        }
+        for (const auto* label : window->findChildren<QLabel*>()) {
+            take(label->isVisible() && label->buddy() != nullptr ? label->text() : QString());
+        }
     });
 }
 

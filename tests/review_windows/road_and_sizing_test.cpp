@@ -18,7 +18,7 @@ class RoadAndSizing : public ReviewStage {
     void show_pages() {
         open();
         press(*window, Qt::Key_R, Qt::AltModifier);
-        press(*window, Qt::Key_S, Qt::AltModifier);
+        press(*window, Qt::Key_Z, Qt::AltModifier);
         settle();
     }
     [[nodiscard]] RoadCanvas& road() const { return dynamic_cast<RoadCanvas&>(find("road")); }
@@ -66,7 +66,7 @@ TEST_F(RoadAndSizing, StandInTheWindow) {
     project = MadeRoad::make(12);
     save();
     show_pages();
-    press(*window, Qt::Key_S, Qt::AltModifier);
+    press(*window, Qt::Key_Z, Qt::AltModifier);
     for (const QSize size : {QSize(1240, 760), QSize(1280, 680), QSize(1000, 620)}) {
         window->resize(size);
         settle();

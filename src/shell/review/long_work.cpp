@@ -1,5 +1,7 @@
 #include "shell/review/long_work.h"
 
+#include <utility>
+
 #include <QCoreApplication>
 #include <QProgressDialog>
 
@@ -12,7 +14,8 @@ constexpr int full_bar = 1000;
 
 }  // namespace
 
-LongWork::LongWork(QWidget* parent, const QString& what) : parent_(parent), what_(what), next_(shown_after) {
+LongWork::LongWork(QWidget* parent, QString what)
+    : parent_(parent), what_(std::move(what)), next_(shown_after) {
     since_.start();
 }
 

@@ -13,7 +13,7 @@ namespace gullymark::shell {
 /// Work that may take long: after half a second a modal dialog tells how far it is, and lets the user end it.
 class LongWork {
   public:
-    LongWork(QWidget* parent, const QString& what);
+    LongWork(QWidget* parent, QString what);
     ~LongWork();
     LongWork(const LongWork&) = delete;
     LongWork& operator=(const LongWork&) = delete;

@@ -1,9 +1,10 @@
 #include "shell/review/review_window.h"
 
-#include <algorithm>
+#include <exception>
 #include <utility>
 
 #include <QAction>
+#include <QApplication>
 #include <QClipboard>
 #include <QDragEnterEvent>
 #include <QFileInfo>
@@ -88,7 +89,7 @@ void ReviewWindow::build_pages() {
     left_->addTab(road_, QStringLiteral("&Road"));
     right_->addTab(inlet_, QStringLiteral("&Inlet"));
     right_->addTab(calculation_, QStringLiteral("Wor&ked Calculation"));
-    right_->addTab(sizing_, QStringLiteral("&Sizing"));
+    right_->addTab(sizing_, QStringLiteral("Si&zing"));
     findings_->picked = [this](std::size_t inlet) { set_current(inlet); };
     inlets_->picked = findings_->picked;
     road_->picked = findings_->picked;
@@ -192,7 +193,7 @@ FileFollower::Outcome ReviewWindow::read_again(bool lasting) {
         }
         take(std::move(reviewed), true);
         return Outcome::read;
-    } catch (const platform::Failure& failure) {
+    } catch (const std::exception& failure) {
         if (lasting) {
             head_->warn("The file cannot be read right now, this is the project as it was read at " +
                         read_at_ + ": " + to_qt(failure.what()));
@@ -305,7 +306,8 @@ void ReviewWindow::show_about() {
 }
 
 void ReviewWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (!dragged_file(*event->mimeData()).empty()) {
+    // A box that is open has the user's answer first.
+    if (QApplication::activeModalWidget() == nullptr && !dragged_file(*event->mimeData()).empty()) {
         event->acceptProposedAction();
     }
 }
