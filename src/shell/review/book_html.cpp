@@ -6,6 +6,7 @@
 #include "engine/unit_constants.h"
 #include "engine/units.h"
 #include "review/finding_lines.h"
+#include "review/summary.h"
 #include "review/texts.h"
 #include "shell/binding/qt_text.h"
 #include "shell/review/finding_html.h"
@@ -24,15 +25,6 @@ QString field(const char* label, const QString& text) {
     return text.isEmpty() ? QString()
                           : QStringLiteral(R"(<tr><td width="16%"><b>%1</b></td><td>%2</td></tr>)")
                                 .arg(QString::fromLatin1(label), text);
-}
-
-/// The numbers of inlets, one after the other.
-QString numbers_of(const review::Project& project, const std::vector<std::size_t>& indices) {
-    QStringList numbers;
-    for (const std::size_t index : indices) {
-        numbers << escaped_text(project.inlets[index].text(Column::INLET_NUMBER));
-    }
-    return numbers.join(QStringLiteral(", "));
 }
 
 QString flow_row(const char* what, double flow) {
@@ -99,15 +91,9 @@ QString book_title_html(const review::Reviewed& reviewed, const QString& file, c
 }
 
 QStringList book_to_do_html(const review::Reviewed& reviewed) {
-    const auto& project = reviewed.project;
-    const auto& fresh = reviewed.fresh;
-    QStringList paragraphs;
-    paragraphs << (fresh.to_do.empty() ? QStringLiteral("<p>Every inlet is up to date: its carryovers are "
-                                                        "the bypass of the previous inlets, and its "
-                                                        "results follow from its inputs.</p>")
-                                       : "<p>Open, solve and save, in this order: <b>" +
-                                             numbers_of(project, fresh.to_do) + "</b>.</p>");
-    for (const auto& obstacle : fresh.obstacles) {
+    const std::string line = review::to_do_line(reviewed, reviewed.project.inlets.size());
+    QStringList paragraphs{"<p>" + escaped_text(line) + ".</p>"};
+    for (const auto& obstacle : reviewed.fresh.obstacles) {
         paragraphs << "<p>" + escaped_text(obstacle.text) + "</p>";
     }
     return paragraphs;

@@ -34,6 +34,7 @@
 #include "shell/review/review_head.h"
 #include "shell/review/road_picture.h"
 #include "shell/review/sizing_page.h"
+#include "shell/review/write_review.h"
 #include "store/help.h"
 #include "store/project_session.h"
 
@@ -127,6 +128,16 @@ void ReviewWindow::build_menus() {
     add_command(file, "open", "&Open...", {QKeySequence::Open}, &ReviewWindow::choose_file);
     add_command(file, "refresh", "&Refresh", {Qt::Key_F5}, &ReviewWindow::refresh);
     file.addSeparator();
+    for (QAction* command :
+         {add_command(file, "save_book", "Save &Book as PDF...", {Qt::CTRL | Qt::SHIFT | Qt::Key_S},
+                      &ReviewWindow::save_book),
+          add_command(file, "save_table", "Save &Table as CSV...", {}, &ReviewWindow::save_table),
+          add_command(file, "print_book", "&Print Book...", {Qt::CTRL | Qt::SHIFT | Qt::Key_P},
+                      &ReviewWindow::print_book)}) {
+        command->setEnabled(false);
+        of_project_ << command;
+    }
+    file.addSeparator();
     QAction* quit = file.addAction(QStringLiteral("&Quit"), this, &QWidget::close);
     quit->setShortcut(Qt::CTRL | Qt::Key_Q);
     quit->setMenuRole(QAction::NoRole);
@@ -215,6 +226,9 @@ void ReviewWindow::take(std::unique_ptr<review::Reviewed> reviewed, bool same_fi
     current_ = earlier == nullptr
                    ? 0
                    : review::find_inlet_again(shown_->project, earlier->project, current_).value_or(0);
+    for (QAction* command : of_project_) {
+        command->setEnabled(true);
+    }
     head_->show_project(*shown_, to_qt(path_));
     head_->warn({});
     findings_->show_review(*shown_, earlier);
@@ -260,6 +274,18 @@ void ReviewWindow::show_current() {
 void ReviewWindow::enter_inlet() {
     right_->setCurrentWidget(inlet_);
     inlet_->setFocus();
+}
+
+void ReviewWindow::save_book() {
+    shell::save_book(*this, *shown_, path_);
+}
+
+void ReviewWindow::save_table() {
+    shell::save_table(*shown_);
+}
+
+void ReviewWindow::print_book() {
+    shell::print_book(*this, *shown_, path_);
 }
 
 void ReviewWindow::find() {

@@ -40,6 +40,9 @@ class ReviewWindow : public QMainWindow {
 
     void choose_file();
     void refresh();
+    void save_book();
+    void save_table();
+    void print_book();
     void find();
     void sort_by_severity();
     void sort_along_road();
@@ -62,6 +65,7 @@ class ReviewWindow : public QMainWindow {
     QString read_at_;
     std::unique_ptr<review::Reviewed> shown_;
     std::size_t current_ = 0;
+    QList<QAction*> of_project_;  // the commands that need one
     FileFollower follower_;
     ReviewHead* head_ = nullptr;
     QTabWidget* left_ = nullptr;

@@ -1,6 +1,5 @@
 #include "shell/windows/calculation_sheet.h"
 
-#include <optional>
 #include <utility>
 
 #include <QAction>
@@ -16,17 +15,13 @@
 #include <QVBoxLayout>
 
 #include "calculation/as_text.h"
-#include "platform/failure.h"
-#include "platform/file_dialog.h"
-#include "platform/files.h"
 #include "platform/outside.h"
-#include "platform/project_copy.h"
 #include "shell/binding/qt_text.h"
 #include "shell/binding/turn.h"
 #include "shell/windows/calculation_html.h"
 #include "shell/windows/calculation_pages.h"
+#include "shell/windows/chosen_file.h"
 #include "shell/windows/section_picture.h"
-#include "store/project_session.h"
 
 namespace gullymark::shell {
 namespace {
@@ -41,19 +36,6 @@ QTextBrowser* text_view() {
     view->setOpenLinks(false);
     view->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     return view;
-}
-
-/// Where the pages go; nothing where the user chose none.
-std::optional<std::string> choose_pdf(const std::string& inlet) {
-    platform::FileDialog dialog{.filter = "PDF files (*.pdf)|*.pdf",
-                                .initial_folder = store::dialog_start_folder(),
-                                .title = "Save Worked Calculation of Inlet " + inlet};
-    dialog.show_save();
-    if (dialog.file_name.empty() || dialog.file_name == "*.pdf") {
-        return std::nullopt;
-    }
-    store::session.workingDirectory = platform::current_folder();
-    return store::may_overwrite(dialog.file_name) ? std::optional(dialog.file_name) : std::nullopt;
 }
 
 }  // namespace
@@ -121,17 +103,9 @@ void CalculationSheet::print() {
 }
 
 void CalculationSheet::save_as_pdf() {
-    const auto target = choose_pdf(document_.inlet);
-    if (!target) {
-        return;
-    }
-    try {
-        platform::refuse_project(*target);
-        const QByteArray file = calculation_pdf(document_, section_);
-        platform::replace_file(*target, {file.constData(), static_cast<std::size_t>(file.size())});
-    } catch (const platform::Failure& failure) {
-        platform::tell("The PDF file was not written: " + std::string(failure.what()),
-                       platform::BoxKind::warning);
+    if (const auto target =
+            choose_file_to_write(pdf_file, "Save Worked Calculation of Inlet " + document_.inlet)) {
+        write_chosen_file(pdf_file, *target, [this] { return calculation_pdf(document_, section_); });
     }
 }
 
