@@ -8,9 +8,11 @@
 
 #include "calculation/units_in_force.h"
 #include "calculation/worked_calculation.h"
+#include "review/road_plan.h"
 #include "section/section.h"
 #include "shell/binding/qt_text.h"
 #include "shell/review/book_html.h"
+#include "shell/review/book_road.h"
 #include "shell/windows/calculation_html.h"
 #include "shell/windows/calculation_pages.h"
 #include "shell/windows/paper_pages.h"
@@ -30,7 +32,11 @@ QString date_of(std::chrono::year_month_day day) {
 /// All before the inlets.
 class FrontPages {
   public:
-    FrontPages(const BookRequest& request, QPagedPaintDevice& device) : request_(request), pages_(device) {
+    FrontPages(const BookRequest& request, QPagedPaintDevice& device)
+        : request_(request),
+          plan_(review::plan_road(request.reviewed.project, request.reviewed.findings,
+                                  &request.reviewed.fresh)),
+          pages_(device) {
         const auto& reviewed = request.reviewed;
         pages_.add(book_title_html(reviewed, request.file, date_of(request.today)));
         pages_.add(heading_html("What to do"), true);
@@ -42,7 +48,11 @@ class FrontPages {
         for (const auto severity : {Severity::wrong, Severity::beyond, Severity::doubtful}) {
             add_findings(severity);
         }
-        add_inlets();
+        if (!reviewed.project.inlets.empty()) {
+            pages_.add(heading_html("The road"), true);
+            add_road(pages_, plan_);
+            add_inlets();
+        }
     }
 
     [[nodiscard]] int count() const { return pages_.count(); }
@@ -71,9 +81,6 @@ class FrontPages {
     }
 
     void add_inlets() {
-        if (request_.reviewed.project.inlets.empty()) {
-            return;
-        }
         pages_.add(heading_html("Inlets"), true);
         pages_.add(QStringLiteral("<p>Behind an arrow stands what a value would be up to date.</p>"), true);
         pages_.begin_table(book_table_head());
@@ -84,6 +91,7 @@ class FrontPages {
     }
 
     const BookRequest& request_;
+    review::RoadPlan plan_;
     PaperPages pages_;
 };
 

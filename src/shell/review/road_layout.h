@@ -34,7 +34,7 @@ class RoadLayout {
         return view_.area.left() + (station - view_.from) * pixels_for_length_;
     }
     /// The height of a lane that shows all there is to see, and of the stations above all lanes.
-    static double least_lane(double unit) { return 200 * unit; }
+    static double least_lane(double unit) { return 250 * unit; }
     static double axis_height(double unit) { return 26 * unit; }
 
     [[nodiscard]] QRectF lanes() const;  // the area below the stations

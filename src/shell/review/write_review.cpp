@@ -52,8 +52,9 @@ void save_table(const review::Reviewed& reviewed) {
     const auto target = choose_file_to_write(csv_file, "Save Table as CSV");
     if (target) {
         write_chosen_file(csv_file, *target, [&] {
-            return QByteArray::fromStdString(review::as_csv(
-                review::make_inlet_table(reviewed.project, reviewed.findings, reviewed.fresh)));
+            const std::string csv =
+                review::as_csv(review::make_inlet_table(reviewed.project, reviewed.findings, reviewed.fresh));
+            return QByteArray(csv.data(), static_cast<qsizetype>(csv.size()));
         });
     }
 }

@@ -20,7 +20,7 @@ CalculationPages::CalculationPages(const calculation::Document& document, const 
                                    QPagedPaintDevice& device)
     : document_(document), device_(device), pages_(device) {
     pages_.add(head_html(document));
-    pages_.add_picture(picture_inches, [&section](QPainter& painter, const QRectF& area) {
+    pages_.add_picture(picture_inches * pages_.inch(), [&section](QPainter& painter, const QRectF& area) {
         paint_section(painter, area, section, section_colors_on_paper());
     });
     for (const auto& part : document.sections) {

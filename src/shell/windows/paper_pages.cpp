@@ -80,8 +80,20 @@ void PaperPages::add(const QString& html, bool is_heading) {
     add({.text = std::move(text), .picture = {}, .gap = gap, .height = height, .keeps_next = is_heading});
 }
 
-void PaperPages::add_picture(qreal inches, std::function<void(QPainter&, const QRectF&)> paint) {
-    add({.text = nullptr, .picture = std::move(paint), .height = inches * device_.logicalDpiY()});
+void PaperPages::add_picture(qreal height, std::function<void(QPainter&, const QRectF&)> paint) {
+    add({.text = nullptr, .picture = std::move(paint), .height = height});
+}
+
+QFontMetricsF PaperPages::picture_font() const {
+    return {page_font(picture_points), &device_};
+}
+
+qreal PaperPages::width() const {
+    return page_size(device_).width();
+}
+
+qreal PaperPages::inch() const {
+    return device_.logicalDpiY();
 }
 
 void PaperPages::add(Block block) {

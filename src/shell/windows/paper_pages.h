@@ -4,6 +4,7 @@
 #include <memory>
 #include <vector>
 
+#include <QFontMetricsF>
 #include <QPageLayout>
 #include <QString>
 #include <QTextDocument>
@@ -41,8 +42,13 @@ class PaperPages {
 
     /// A text; a heading keeps the next block on its page.
     void add(const QString& html, bool is_heading = false);
-    /// A picture as wide as the page and so high; it is painted into the rectangle, in a small font.
-    void add_picture(qreal inches, std::function<void(QPainter&, const QRectF&)> paint);
+    /// A picture as wide as the page and so high, in the device's own unit; it is painted into the rectangle, in the font
+    /// of pictures.
+    void add_picture(qreal height, std::function<void(QPainter&, const QRectF&)> paint);
+    [[nodiscard]] QFontMetricsF picture_font() const;
+    /// The width of a page, and an inch, in the device's own unit.
+    [[nodiscard]] qreal width() const;
+    [[nodiscard]] qreal inch() const;
     /// The next block begins a page.
     void begin_page() { begins_page_ = true; }
     /// The head of a table: it stands above the next blocks, on each of their pages.
