@@ -41,9 +41,8 @@ class RoadPainter {
         for (const std::size_t index : layout_.in_view()) {
             paint_spreads(index);
         }
-        if (current_) {
-            place_text(*current_);
-        }
+        // The number of the current inlet has its place before all others, and is painted over what is crowded there.
+        has_place_ = current_ && texts_.take(number_box(*current_));
         const auto arrows = paint_arrows(signs_, layout_, current_);
         paint_symbols();
         paint_numbers();
@@ -218,29 +217,50 @@ class RoadPainter {
                 }
             }
         }
+        if (has_place_) {
+            paint_number(*current_);
+        }
         for (const auto& label : spread_texts_) {
             texts_.place(label.text, label.box, label.color);
         }
     }
 
-    /// The signs of what was found and the number, away from the road.
-    void place_text(std::size_t index) {
-        const auto& planned = inlet(index);
-        const QFontMetricsF font(painter_.font());
+    [[nodiscard]] double sign_size() const { return 4.5 * unit(); }
+
+    [[nodiscard]] QString shown_number(std::size_t index) const {
         constexpr double longest = 120;
-        const QString number = font.elidedText(to_qt(planned.number), Qt::ElideRight, longest * unit());
-        const double sign = 4.5 * unit();
+        return QFontMetricsF(painter_.font())
+            .elidedText(to_qt(inlet(index).number), Qt::ElideRight, longest * unit());
+    }
+
+    /// The length of the signs before the number.
+    [[nodiscard]] double before_number(std::size_t index) const {
+        const auto& planned = inlet(index);
         const int signs = (planned.worst ? 1 : 0) + (planned.stale ? 1 : 0) + (planned.loses_water ? 1 : 0);
-        const double before = signs == 0 ? 0 : signs * 2.6 * sign + 2 * unit();
-        const double width = before + font.horizontalAdvance(number);
+        return signs == 0 ? 0 : signs * 2.6 * sign_size() + 2 * unit();
+    }
+
+    /// Where the signs of what was found and the number stand, away from the road.
+    [[nodiscard]] QRectF number_box(std::size_t index) const {
+        const QFontMetricsF font(painter_.font());
+        const double width = before_number(index) + font.horizontalAdvance(shown_number(index));
         const QPointF at = layout_.symbol(index);
         // The heads of arrows have room before it.
         const double away = 1.3 * layout_.symbol_size() + (layout_.is_crowded() ? 3 : 8) * unit();
         const double top = layout_.outward(index) < 0 ? at.y() - away - font.height() : at.y() + away;
-        QRectF box(at.x() - width / 2, top, width, font.height());
-        if (!texts_.take(box)) {
-            return;
+        return {at.x() - width / 2, top, width, font.height()};
+    }
+
+    void place_text(std::size_t index) {
+        if (texts_.take(number_box(index))) {
+            paint_number(index);
         }
+    }
+
+    void paint_number(std::size_t index) {
+        const auto& planned = inlet(index);
+        const double sign = sign_size();
+        QRectF box = number_box(index);
         painter_.fillRect(box, colors_.section.paper);
         QPointF spot(box.left() + sign, box.center().y());
         const auto next = [&] { spot += QPointF(2.6 * sign, 0); };
@@ -255,8 +275,8 @@ class RoadPainter {
         if (planned.loses_water) {
             signs_.mark(spot, sign, WaterMark::lost);
         }
-        box.setLeft(box.left() + before);
-        texts_.draw(number, box, index == current_ ? colors_.marked : colors_.section.ink);
+        box.setLeft(box.left() + before_number(index));
+        texts_.draw(shown_number(index), box, index == current_ ? colors_.marked : colors_.section.ink);
     }
 
     QPainter& painter_;
@@ -266,6 +286,7 @@ class RoadPainter {
     RoadTexts texts_;
     std::optional<std::size_t> current_;
     std::vector<RoadLabel> spread_texts_;
+    bool has_place_ = false;  // the number of the current inlet
 };
 
 }  // namespace
