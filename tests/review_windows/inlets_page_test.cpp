@@ -5,6 +5,7 @@
 #include <QTabWidget>
 
 #include "review_windows/review_stage.h"
+#include "shell/windows/section_picture.h"
 
 namespace gullymark::shell {
 namespace {
@@ -92,6 +93,15 @@ TEST_F(InletsPageTest, TheCalculationIsSavedAsPdfBesideTheProject) {
     find<QTextBrowser>("calculation").setFocus();
     press(*window, Qt::Key_S, Qt::ControlModifier);
     EXPECT_TRUE(read_file(folder.path("calculation.pdf")).starts_with("%PDF"));
+}
+
+TEST_F(InletsPageTest, WaterThatDoesNotFollowFromItsInputsIsHatched) {
+    const auto& picture = dynamic_cast<const SectionPicture&>(find("inlet_picture"));
+    inlets().setCurrentIndex(inlets().model()->index(1, 0));
+    EXPECT_EQ(picture.drawn().water, section::Water::solved);
+    change(1, {{Column::OPENSPREAD, "2.000"}});
+    save();
+    EXPECT_TRUE(comes([&] { return picture.drawn().water == section::Water::unsolved; }));
 }
 
 TEST_F(InletsPageTest, TheHeadTellsWhatToDoAndWhereTheWaterStays) {

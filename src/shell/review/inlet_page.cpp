@@ -11,6 +11,7 @@
 #include "engine/units.h"
 #include "platform/characters.h"
 #include "review/inlet_list.h"
+#include "review/rules.h"
 #include "review/summary.h"
 #include "section/section.h"
 #include "shell/binding/qt_text.h"
@@ -61,7 +62,8 @@ QString place_of(const engine::InletRecord& inlet) {
 section::Water water_of(const engine::InletRecord& inlet, const std::vector<review::Finding>& findings) {
     const auto water = section::water_of(inlet);
     const bool differs = std::ranges::any_of(findings, [](const review::Finding& finding) {
-        return finding.rule == "result-differs" || finding.rule == "not-solved";
+        return finding.rule == review::rules::result_differs.name ||
+               finding.rule == review::rules::not_solved.name;
     });
     return water == section::Water::solved && differs ? section::Water::unsolved : water;
 }
