@@ -76,6 +76,15 @@ for my $path (glob('src/shell/windows/*_view.ui')) {
     }
 }
 
+# Pages and commands of the reviewer's window stand on the page about it.
+for my $path (glob('src/shell/review/*.cpp')) {
+    my $source = read_text($path);
+    while ($source =~ /\badd_command\(\s*\w+,\s*"\w+",\s*"([^"]+)"|\baddTab\(\w+, QStringLiteral\("([^"]+)"\)/g) {
+        (my $caption = $1 // $2) =~ s/&//;
+        complain("checking.html does not have \"$caption\" of $path") if index($pages{checking}, $caption) < 0;
+    }
+}
+
 # The page on defaults has those of a new inlet, the last one where a field has two.
 my %default_named = (
     allowable_spread => 'ALLOWABLE SPREAD',

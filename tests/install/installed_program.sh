@@ -32,6 +32,7 @@ lib/gullymarkal/gullymark-review
 share/applications/gullymark-review.desktop
 share/applications/gullymarkal.desktop
 share/doc/gullymarkal/copyright
+share/doc/gullymarkal/examples/checking_road.gmk
 share/icons/hicolor/scalable/apps/gullymark-review.svg
 share/icons/hicolor/scalable/apps/gullymarkal.svg
 share/icons/hicolor/scalable/mimetypes/application-x-gullymarkal.svg
