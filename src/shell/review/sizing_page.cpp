@@ -99,6 +99,12 @@ SizingPage::SizingPage(QWidget* parent)
     clear();
 }
 
+/// A field that goes with its page loses the focus and tells so, when the page is none any more.
+SizingPage::~SizingPage() {
+    area_->disconnect(this);
+    table_->picked = {};
+}
+
 void SizingPage::build() {
     QFont bold = font();
     bold.setBold(true);

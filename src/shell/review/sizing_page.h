@@ -35,6 +35,11 @@ class SizingTable : public ReviewTable {
 class SizingPage : public QWidget {
   public:
     explicit SizingPage(QWidget* parent = nullptr);
+    ~SizingPage() override;
+    SizingPage(const SizingPage&) = delete;
+    SizingPage& operator=(const SizingPage&) = delete;
+    SizingPage(SizingPage&&) = delete;
+    SizingPage& operator=(SizingPage&&) = delete;
 
     /// The inlet that is shown from now on; what is handed over must outlive the page or the next call. It is solved when the
     /// page is looked at.
