@@ -3,8 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
-#include <regex>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,18 +21,50 @@ namespace {
 
 using engine::Column;
 
-std::string replaced(const std::string& text, const char* pattern, const char* by) {
-    return std::regex_replace(text, std::regex(pattern), by);
+/// Writes `mark` in the place of the blanks that the text ends with, once.
+void end_with(std::string& text, std::string_view mark) {
+    while (text.ends_with(' ')) {
+        text.pop_back();
+    }
+    text += text.ends_with(mark) ? std::string_view() : mark;
+}
+
+void add_tag(std::string& text, std::string_view tag) {
+    constexpr std::size_t behind_slash = 1;
+    if (tag.find("td") <= behind_slash || tag.find("th") <= behind_slash) {
+        end_with(text, "|");
+    } else if (tag == "br") {
+        end_with(text, " / ");
+    }
+}
+
+void add_letter(std::string& text, char letter) {
+    const bool is_blank = letter == ' ' || letter == '\n';
+    if (!is_blank) {
+        text += letter;
+    } else if (!text.ends_with(' ') && !text.ends_with('|')) {
+        text += ' ';
+    }
 }
 
 /// As a reader sees it: cells stand between bars, lines of a cell between strokes, and two blanks are one.
-std::string as_read(std::string text) {
-    text = replaced(text, "&nbsp;", " ");
-    text = replaced(text, "\\s+", " ");
-    text = replaced(text, "</t[dh]> ?<t[dh][^>]*>", "|");
-    text = replaced(text, " ?</?t[dh][^>]*> ?", "|");
-    text = replaced(text, " ?<br> ?", " / ");
-    return replaced(text, "<[^>]+>", "");
+std::string as_read(std::string_view html) {
+    constexpr std::string_view fixed_blank = "&nbsp;";
+    std::string text;
+    while (!html.empty()) {
+        std::size_t taken = 1;
+        if (html.front() == '<') {
+            taken = std::min(html.find('>'), html.size() - 1) + 1;
+            add_tag(text, html.substr(1, taken - 2));
+        } else if (html.starts_with(fixed_blank)) {
+            taken = fixed_blank.size();
+            add_letter(text, ' ');
+        } else {
+            add_letter(text, html.front());
+        }
+        html.remove_prefix(taken);
+    }
+    return text;
 }
 
 struct HelpRoad : testing::Test {
@@ -45,9 +77,9 @@ struct HelpRoad : testing::Test {
     /// The rows of the page that show a rule.
     [[nodiscard]] std::vector<std::string> rows_of_rules() const {
         std::vector<std::string> rows;
-        const std::regex row("<tr>\\s*<td><code>[^]*?</tr>");
-        for (std::sregex_iterator found(html.begin(), html.end(), row), end; found != end; ++found) {
-            rows.push_back(as_read(found->str()));
+        const std::string first_cell = "<tr>\n    <td><code>";
+        for (auto at = html.find(first_cell); at != std::string::npos; at = html.find(first_cell, at + 1)) {
+            rows.push_back(as_read(std::string_view(html).substr(at, html.find("</tr>", at) - at)));
         }
         return rows;
     }
