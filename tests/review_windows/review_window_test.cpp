@@ -164,5 +164,51 @@ TEST_F(ReviewWindowTest, AnEmptyProjectHasNoInlets) {
     EXPECT_EQ(text("inlet_title"), "No inlet");
 }
 
+TEST_F(ReviewWindowTest, ABypassThatNoInletTakesIsToldAboveTheLimitOnly) {
+    change(5, {{Column::PREINLET1, ""}});
+    change(6, {{Column::PREINLET1, ""}});
+    bring_up_to_date();
+    save();
+    open();
+    const std::string bypass = stored(5, Column::QCARRY);
+    const auto untaken = [this] { return std::ranges::count(shown(), "Wrong R1"); };
+    ASSERT_EQ(untaken(), 1);
+    auto& limit = find<QLineEdit>("bypass_limit");
+    EXPECT_EQ(limit.text(), "0");
+    const auto type_limit = [&](const std::string& text) {
+        press(*window, Qt::Key_M, Qt::AltModifier);
+        ASSERT_TRUE(limit.hasFocus());
+        press(*window, Qt::Key_A, Qt::ControlModifier);
+        type(*window, text);
+        press(*window, Qt::Key_Return);
+    };
+    type_limit(bypass);
+    EXPECT_EQ(untaken(), 0);
+    for (const char* none : {"-1", "much", ""}) {
+        press(*window, Qt::Key_M, Qt::AltModifier);
+        press(*window, Qt::Key_A, Qt::ControlModifier);
+        press(*window, Qt::Key_Delete);
+        type(*window, none);
+        press(*window, Qt::Key_Tab);
+        EXPECT_EQ(limit.text().toStdString(), bypass);
+        EXPECT_EQ(untaken(), 0);
+    }
+    type_limit("0");
+    EXPECT_EQ(untaken(), 1);
+}
+
+TEST_F(ReviewWindowTest, ALimitThatIsTypedHoldsForTheNextProject) {
+    auto& limit = find<QLineEdit>("bypass_limit");
+    limit.setFocus();
+    press(*window, Qt::Key_A, Qt::ControlModifier);
+    type(*window, "100");
+    press(*window, Qt::Key_Return);
+    change(6, {{Column::PREINLET1, ""}});
+    bring_up_to_date();
+    save();
+    open();
+    EXPECT_THAT(shown(), testing::Not(testing::Contains("Wrong R1")));
+}
+
 }  // namespace
 }  // namespace gullymark::shell

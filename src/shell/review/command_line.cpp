@@ -3,7 +3,7 @@
 #include <cstddef>
 
 #include "platform/failure.h"
-#include "platform/number_text.h"
+#include "review/texts.h"
 
 namespace gullymark::review {
 namespace {
@@ -30,8 +30,7 @@ class Arguments {
 };
 
 std::string read_limit(const std::string& text) {
-    const auto read = platform::read_number(text);
-    if (read.fault != platform::NumberFault::none || read.number < 0) {
+    if (number_of(text).value_or(-1.0) < 0.0) {
         throw Failure("the limit of a bypass is a number that is not negative, not \"" + text + "\"");
     }
     return text;

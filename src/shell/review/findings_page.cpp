@@ -13,6 +13,8 @@
 #include <QTextDocument>
 #include <QVBoxLayout>
 
+#include "engine/units.h"
+#include "review/texts.h"
 #include "shell/binding/qt_text.h"
 #include "shell/review/finding_html.h"
 #include "shell/review/findings_model.h"
@@ -116,6 +118,7 @@ void FindingsPage::build_choice(QLayout& layout) {
         choice_.text = from_qt(text);
         choose();
     });
+    build_limit(*row);
     auto* boxes = new QHBoxLayout;
     for (std::size_t i = 0; i < all_severities.size(); ++i) {
         auto* box = new QCheckBox;
@@ -144,6 +147,37 @@ void FindingsPage::build_choice(QLayout& layout) {
     show_counts();
 }
 
+/// A bypass that no inlet takes is a finding above this flow.
+void FindingsPage::build_limit(QLayout& row) {
+    auto* label = new QLabel(QStringLiteral("Bypass li&mit"));
+    limit_ = new QLineEdit(to_qt(limit_in_force_));
+    limit_unit_ = new QLabel;
+    limit_->setObjectName(QStringLiteral("bypass_limit"));
+    limit_->setToolTip(QStringLiteral("A bypass that no inlet takes is a finding above this flow."));
+    limit_->setAccessibleDescription(limit_->toolTip());
+    limit_->setAlignment(Qt::AlignRight);
+    limit_->setAcceptDrops(false);
+    constexpr int letters = 7;
+    limit_->setFixedWidth(letters * fontMetrics().averageCharWidth() + fontMetrics().height());
+    label->setBuddy(limit_);
+    for (QWidget* part :
+         {static_cast<QWidget*>(label), static_cast<QWidget*>(limit_), static_cast<QWidget*>(limit_unit_)}) {
+        row.addWidget(part);
+    }
+    connect(limit_, &QLineEdit::editingFinished, &life_, [this] { take_limit(); });
+}
+
+/// A text that is no limit gives way to the limit in force.
+void FindingsPage::take_limit() {
+    const std::string text = from_qt(limit_->text().trimmed());
+    if (review::number_of(text).value_or(-1.0) < 0.0) {
+        limit_->setText(to_qt(limit_in_force_));
+    } else if (text != limit_in_force_) {
+        limit_in_force_ = text;
+        limit_wanted(text);
+    }
+}
+
 const Finding* FindingsPage::current() const {
     return model_->finding(table_->currentIndex().row());
 }
@@ -154,6 +188,7 @@ void FindingsPage::show_review(const review::Reviewed& now, const review::Review
     const std::optional<Finding> wanted =
         picked_before == nullptr ? std::nullopt : std::optional(*picked_before);
     shown_ = &now;
+    limit_unit_->setText(to_qt(std::string(engine::unit_text(engine::Unit::discharge))));
     table_->keep_place([&] {
         model_->show(now.findings, review::choose_findings(now.findings, choice_, now.places));
         const auto found = wanted ? review::find_again(now.findings, *wanted) : std::nullopt;

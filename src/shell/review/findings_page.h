@@ -28,6 +28,8 @@ class FindingsPage : public QWidget {
     std::function<void(std::size_t inlet)> picked;
     /// Told when Enter or a double click asks to see the inlet.
     std::function<void()> entered;
+    /// Told when the user wants another limit of what is told: a number that is not negative.
+    std::function<void(const std::string& bypass)> limit_wanted;
 
     /// What is shown from now on; it must outlive the page or the next `show_review`. What is chosen, the order, the place in the list
     /// and, where it is still found, the finding that is picked stay as they are. `before` is what was shown so far.
@@ -47,6 +49,8 @@ class FindingsPage : public QWidget {
 
   private:
     void build_choice(class QLayout& layout);
+    void build_limit(class QLayout& row);
+    void take_limit();
     void choose();
     void show_counts();
     void show_details();
@@ -59,9 +63,13 @@ class FindingsPage : public QWidget {
     FindingsModel* model_ = nullptr;
     ReviewTable* table_ = nullptr;
     QLineEdit* text_ = nullptr;
+    QLineEdit* limit_ = nullptr;
+    QLabel* limit_unit_ = nullptr;
+    std::string limit_in_force_ = "0";
     std::array<QCheckBox*, 3> severities_{};
     QLabel* count_ = nullptr;
     QTextBrowser* details_ = nullptr;
+    QObject life_;  // what a field tells when it goes with the page, which is none any more, is not heard
 };
 
 }  // namespace gullymark::shell

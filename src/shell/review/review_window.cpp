@@ -95,6 +95,12 @@ void ReviewWindow::build_pages() {
     inlets_->picked = findings_->picked;
     road_->picked = findings_->picked;
     findings_->entered = [this] { enter_inlet(); };
+    findings_->limit_wanted = [this](const std::string& bypass) {
+        limits_.bypass = bypass;
+        if (shown_) {
+            refresh();
+        }
+    };
     inlets_->entered = findings_->entered;
     road_->entered = findings_->entered;
     auto* halves = new QSplitter(Qt::Horizontal);
@@ -171,7 +177,7 @@ void ReviewWindow::choose_file() {
 std::unique_ptr<review::Reviewed> ReviewWindow::read(const std::string& path) {
     LongWork work(this, "Checking " + QFileInfo(to_qt(path)).fileName());
     auto reviewed = review::review_file(
-        path, {}, [&work](std::size_t done, std::size_t all) { return work.go_on(done, all); });
+        path, limits_, [&work](std::size_t done, std::size_t all) { return work.go_on(done, all); });
     return reviewed ? std::make_unique<review::Reviewed>(std::move(*reviewed)) : nullptr;
 }
 

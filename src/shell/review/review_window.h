@@ -62,6 +62,7 @@ class ReviewWindow : public QMainWindow {
     void tell_state();
 
     std::string path_;
+    review::Limits limits_;
     QString read_at_;
     std::unique_ptr<review::Reviewed> shown_;
     std::size_t current_ = 0;

@@ -99,12 +99,6 @@ SizingPage::SizingPage(QWidget* parent)
     clear();
 }
 
-/// A field that goes with its page loses the focus and tells so, when the page is none any more.
-SizingPage::~SizingPage() {
-    area_->disconnect(this);
-    table_->picked = {};
-}
-
 void SizingPage::build() {
     QFont bold = font();
     bold.setBold(true);
@@ -136,7 +130,7 @@ void SizingPage::build() {
     layout->addWidget(area_line_);
     layout->addWidget(parts, 1);
     setFocusProxy(table_);
-    connect(area_, &QLineEdit::editingFinished, this, [this] {
+    connect(area_, &QLineEdit::editingFinished, &life_, [this] {
         if (area_->isModified() && reviewed_ != nullptr) {
             area_->setModified(false);
             work_out();

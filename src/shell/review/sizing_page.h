@@ -35,11 +35,6 @@ class SizingTable : public ReviewTable {
 class SizingPage : public QWidget {
   public:
     explicit SizingPage(QWidget* parent = nullptr);
-    ~SizingPage() override;
-    SizingPage(const SizingPage&) = delete;
-    SizingPage& operator=(const SizingPage&) = delete;
-    SizingPage(SizingPage&&) = delete;
-    SizingPage& operator=(SizingPage&&) = delete;
 
     /// The inlet that is shown from now on; what is handed over must outlive the page or the next call. It is solved when the
     /// page is looked at.
@@ -78,6 +73,7 @@ class SizingPage : public QWidget {
     SizingTable* table_ = nullptr;
     SizingModel* model_ = nullptr;
     CurvePlot* plot_ = nullptr;
+    QObject life_;  // what a field tells when it goes with the page, which is none any more, is not heard
 };
 
 }  // namespace gullymark::shell
