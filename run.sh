@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Sets up what is missing, builds the program and starts it.
+# Sets up what is missing, builds the program and that of the reviewer, and starts the program.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 
@@ -11,5 +11,5 @@ fi
 tools/set_up.sh build
 echo "run.sh: building"
 cmake --preset release >/dev/null
-cmake --build --preset release --target GullymarkAL
+cmake --build --preset release --target GullymarkAL gullymark-review
 exec build/release/bin/GullymarkAL
