@@ -2,8 +2,6 @@
 
 #include "shell/review/book.h"
 
-#include <algorithm>
-
 #include <QPainter>
 #include <QPdfWriter>
 #include <QRegularExpression>
@@ -12,7 +10,6 @@
 #include "calculation/units_in_force.h"
 #include "review/review_fixture.h"
 #include "shell/review/book_html.h"
-#include "shell/review/book_road.h"
 
 namespace gullymark::shell {
 namespace {
@@ -112,38 +109,6 @@ TEST_F(BookTest, ARowTellsWhatAValueWouldBeOnlyWhereItIsAnother) {
 TEST_F(BookTest, InASumpTheDepthIsThatAtTheInlet) {
     ASSERT_FALSE(stored(sump, Column::DEPTHATINLET).empty());
     EXPECT_THAT(plain(book_table_row(reviewed(), sump)), HasSubstr(stored(sump, Column::DEPTHATINLET)));
-}
-
-review::RoadPlan plan_at(const std::vector<double>& places) {
-    review::RoadPlan plan;
-    plan.lanes.resize(1);
-    for (const double at : places) {
-        plan.inlets.emplace_back().at = at;
-        plan.from = std::min(plan.from, at);
-        plan.to = std::max(plan.to, at);
-    }
-    return plan;
-}
-
-TEST_F(BookTest, AStripHoldsTwelveInletsAndTheNextOneGoesOn) {
-    EXPECT_THAT(road_strips(plan_at({})), IsEmpty());
-    std::vector<double> places;
-    for (int i = 0; i < 30; ++i) {
-        places.push_back(100.0 * i);
-    }
-    const auto strips = road_strips(plan_at(places));
-    ASSERT_EQ(strips.size(), 3U);
-    EXPECT_LT(strips.front().from, 0.0);
-    EXPECT_EQ(strips.front().to, 1150.0);
-    EXPECT_EQ(strips[1].from, 1150.0);
-    EXPECT_EQ(strips[1].to, 2350.0);
-    EXPECT_GT(strips.back().to, 2900.0);
-}
-
-TEST_F(BookTest, InletsOfOneStationStandOnOneStrip) {
-    const auto strips = road_strips(plan_at(std::vector<double>(40, 0.5)));
-    ASSERT_EQ(strips.size(), 1U);
-    EXPECT_LT(strips.front().from, strips.front().to);
 }
 
 TEST_F(BookTest, EveryInletBeginsAPage) {

@@ -15,6 +15,7 @@
 #include "shell/review/book_road.h"
 #include "shell/windows/calculation_html.h"
 #include "shell/windows/calculation_pages.h"
+#include "shell/windows/calculation_water.h"
 #include "shell/windows/paper_pages.h"
 
 namespace gullymark::shell {
@@ -108,11 +109,7 @@ bool paint_inlet(const BookRequest& request, std::size_t index, QPagedPaintDevic
                                                              .state = project.state,
                                                              .designer = project.designer},
                                                  .today = request.today});
-    auto water = section::water_of(inlet);
-    if (water != section::Water::none) {
-        water = document.warnings.empty() ? section::Water::solved : section::Water::unsolved;
-    }
-    const auto section = section::draw_section(inlet, water);
+    const auto section = section::draw_section(inlet, water_of(inlet, document));
     const CalculationPages pages(document, section, device);
     const bool painted = device.newPage() && pages.paint(painter, page + 1);
     page += pages.count();

@@ -13,11 +13,11 @@
 namespace gullymark::shell {
 namespace {
 
-constexpr std::size_t inlets_of_a_strip = 12;
+constexpr std::size_t inlets_of_a_side = 6;
 constexpr std::size_t lanes_of_a_page = 3;
 
 /// Paints a strip of the lanes from the first one on that has room.
-void add_strip(PaperPages& pages, const review::RoadPlan& plan, const RoadStrip& strip,
+void add_strip(PaperPages& pages, const review::RoadPlan& plan, const review::Stretch& strip,
                std::size_t first_lane) {
     const double unit = font_unit(pages.picture_font());
     const std::size_t lanes = std::min(lanes_of_a_page, plan.lanes.size() - first_lane);
@@ -39,34 +39,10 @@ void widen(double& end, double other) {
 
 }  // namespace
 
-std::vector<RoadStrip> road_strips(const review::RoadPlan& plan) {
-    std::vector<double> places;
-    for (const auto& inlet : plan.inlets) {
-        places.push_back(inlet.at);
-    }
-    std::ranges::sort(places);
-    std::vector<RoadStrip> strips;
-    double from = plan.from;
-    for (std::size_t next = inlets_of_a_strip; next < places.size(); next += inlets_of_a_strip) {
-        const double to = (places[next - 1] + places[next]) / 2;
-        if (to > from && to > places[next - 1]) {
-            strips.push_back({from, to});
-            from = to;
-        }
-    }
-    if (!places.empty()) {
-        strips.push_back({from, plan.to});
-        widen(strips.front().from, strips.front().to);
-        widen(strips.back().to, strips.back().from);
-    }
-    return strips;
-}
-
 void add_road(PaperPages& pages, const review::RoadPlan& plan) {
-    const auto strips = road_strips(plan);
-    if (strips.empty()) {
-        return;
-    }
+    auto strips = review::road_stretches(plan, inlets_of_a_side);
+    widen(strips.front().from, strips.front().to);
+    widen(strips.back().to, strips.back().from);
     pages.add_picture(road_legend_height(pages.picture_font(), pages.width()),
                       [](QPainter& painter, const QRectF& area) {
                           paint_road_legend(painter, area, road_colors_on_paper());

@@ -7,6 +7,7 @@
 #include "calculation/worked_calculation.h"
 #include "platform/outside.h"
 #include "shell/windows/calculation_sheet.h"
+#include "shell/windows/calculation_water.h"
 
 namespace gullymark::shell {
 
@@ -47,10 +48,7 @@ void CalculationPage::work_out() {
                                                                         .state = project_.state,
                                                                         .designer = project_.designer},
                                                             .today = platform::today()});
-    section::Water water = section::water_of(inlet_);
-    if (water != section::Water::none) {
-        water = document.warnings.empty() ? section::Water::solved : section::Water::unsolved;
-    }
+    const section::Water water = water_of(inlet_, document);
     sheet_->show();
     sheet_->show_calculation(std::move(document), inlet_, water);
     is_shown_ = true;

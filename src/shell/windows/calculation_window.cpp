@@ -13,6 +13,7 @@
 #include "shell/binding/qt_text.h"
 #include "shell/binding/turn.h"
 #include "shell/windows/calculation_sheet.h"
+#include "shell/windows/calculation_water.h"
 #include "shell/windows/inlet_items.h"
 #include "store/project_session.h"
 
@@ -51,11 +52,7 @@ void show_worked_calculation(const QWidget& form) {
                      .designer = project.projectDesigner},
          .today = platform::today(),
          .caption = [&form](engine::Column column) { return caption_of(form, column); }});
-    // The inlet was worked out anew: whether the water belongs to it is known, whatever was typed since.
-    section::Water water = section::water_of(engine::open_inlet);
-    if (water != section::Water::none) {
-        water = document.warnings.empty() ? section::Water::solved : section::Water::unsolved;
-    }
+    const section::Water water = water_of(engine::open_inlet, document);
     CalculationWindow(std::move(document), water, QApplication::activeWindow()).exec();
 }
 
